@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/ORV_1_0/OrvApi.h"
+
+namespace ORV_v1 {
+
+/// The library's string, in UTF-8.
+class ORV_EXPORT String {
+ public:
+  String();
+  String(const String& other);
+  String& operator=(const String& other);
+  ~String();
+
+  /// The text, never null, valid while this string lives unchanged.
+  const char* toChar() const;
+
+  bool empty() const;
+
+ private:
+  friend struct GraphAccess;
+  struct Rep;
+  Rep* rep_;
+};
+
+}  // namespace ORV_v1

@@ -1,0 +1,76 @@
+#include <cstdint>
+
+#include "platform/OpenVesk/KFnPlugin.h"
+#include "platform/OpenVesk/KMessage.h"
+#include "platform/OpenVesk/KSceneMessage.h"
+#include "plugin/orvActionCmd.h"
+#include "plugin/pluginMessages.h"
+#include "plugin/pluginName.h"
+
+KString pluginName;
+
+namespace {
+
+constexpr const char* kVendor = "Tolvane, Inc.";
+constexpr const char* kVersion = "2.1.0.178";
+constexpr const char* kRequiredHost = "Any";
+
+std::uint64_t sceneCallbackId = 0;
+
+struct CommandRow {
+  const char* name;
+  KFnPlugin::Creator creator;
+  KFnPlugin::SyntaxFunction syntax;
+};
+
+/// In the order in which the commands come up and go down.
+constexpr CommandRow kCommands[] = {
+    {"orv", orvActionCmd::creator, orvActionCmd::createSyntax},
+};
+
+void registerCommand(KFnPlugin& plugin, const CommandRow& row, KStatus& status) {
+  status = plugin.registerCommand(row.name, row.creator, row.syntax);
+  if (!status) displayError(rRegisterCommandError, row.name);
+}
+
+void removeSceneCallback() {
+  if (sceneCallbackId == 0) return;
+  KMessage::removeCallback(sceneCallbackId);
+  sceneCallbackId = 0;
+}
+
+/// The program is about to exit.
+void onSceneMessage(void*) { removeSceneCallback(); }
+
+}  // namespace
+
+extern "C" {
+
+VESK_EXPORT extern const char KApiVersion[16];
+const char KApiVersion[16] = "20250000";
+
+VESK_EXPORT extern const unsigned char TLVN_PLUGIN_SIGNATURE[64];
+const unsigned char TLVN_PLUGIN_SIGNATURE[64] = {};
+
+/// Each registration replaces the status and none stops the sequence, so the load fails only with
+/// the last command: a module that lacks one of the others is still worth having.
+VESK_EXPORT KStatus initializePlugin(KObject object) {
+  KStatus status;
+  KFnPlugin plugin(object, kVendor, kVersion, kRequiredHost, &status);
+  registerMessages();
+  pluginName = plugin.name();
+  for (const CommandRow& row : kCommands) registerCommand(plugin, row, status);
+  sceneCallbackId = KSceneMessage::addCallback(KSceneMessage::kExiting, onSceneMessage);
+  return status;
+}
+
+/// Deregisters in the order of registration, and reports the status of the last command.
+VESK_EXPORT KStatus uninitializePlugin(KObject object) {
+  KStatus status;
+  KFnPlugin plugin(object, kVendor, kVersion, kRequiredHost, &status);
+  removeSceneCallback();
+  for (const CommandRow& row : kCommands) status = plugin.deregisterCommand(row.name);
+  return status;
+}
+
+}  // extern "C"

@@ -1,0 +1,127 @@
+#include "standalone/graph/types/ValueText.h"
+
+#include <array>
+#include <charconv>
+
+namespace orvlib {
+namespace {
+
+constexpr std::array kScalarKindNames{"boolean", "integer", "float", "string"};
+
+template <class Number>
+std::string parseScalar(const std::string& text, Number& number) {
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  if (error == std::errc::result_out_of_range) return "is out of range";
+  if (error != std::errc() || stop != end) return "is not a number";
+  return {};
+}
+
+template <>
+std::string parseScalar(const std::string& text, std::int32_t& number) {
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  if (error == std::errc::result_out_of_range) return "is out of range";
+  if (error != std::errc() || stop != end) return "is not a whole number";
+  return {};
+}
+
+template <>
+std::string parseScalar(const std::string& text, bool& boolean) {
+  boolean = text == "true";
+  return boolean || text == "false" ? "" : "is neither true nor false";
+}
+
+template <>
+std::string parseScalar(const std::string& text, std::string& string) {
+  string = text;
+  return {};
+}
+
+template <class Number>
+std::string printScalar(Number number) {
+  std::array<char, 64> buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+  return {buffer.data(), end};
+}
+std::string printScalar(bool boolean) { return boolean ? "true" : "false"; }
+std::string printScalar(const std::string& string) { return string; }
+
+std::string countReason(const ValueType& type, std::size_t count) {
+  const std::string per = std::to_string(type.componentCount());
+  const std::string need = type.isArray() ? "a multiple of " + per : per;
+  return "type '" + type.name + "' takes " + need + (need == "1" ? " value" : " values") +
+         ", not " + std::to_string(count);
+}
+
+bool countFits(const ValueType& type, std::size_t count) {
+  return type.isArray() ? count % type.componentCount() == 0 : count == type.componentCount();
+}
+
+template <class Scalar>
+ParsedValue parseScalars(const ValueType& type, const std::vector<std::string>& texts) {
+  std::vector<Scalar> scalars;
+  scalars.reserve(texts.size());
+  for (const std::string& text : texts) {
+    Scalar scalar{};
+    if (const std::string wrong = parseScalar(text, scalar); !wrong.empty()) {
+      return {std::nullopt, "'" + text + "' " + wrong + " (type '" + type.name + "')"};
+    }
+    scalars.push_back(std::move(scalar));
+  }
+  return {Value(std::move(scalars)), {}};
+}
+
+}  // namespace
+
+ParsedValue parseValue(const ValueType& type, const std::vector<std::string>& texts) {
+  if (!countFits(type, texts.size())) return {std::nullopt, countReason(type, texts.size())};
+  switch (type.scalar) {
+    case ScalarKind::Boolean:
+      return parseScalars<bool>(type, texts);
+    case ScalarKind::Integer:
+      return parseScalars<std::int32_t>(type, texts);
+    case ScalarKind::Float:
+      return parseScalars<float>(type, texts);
+    case ScalarKind::String:
+      break;
+  }
+  return parseScalars<std::string>(type, texts);
+}
+
+std::vector<std::string> printValue(const Value& value) {
+  return std::visit(
+      [](const auto& scalars) {
+        std::vector<std::string> texts;
+        texts.reserve(scalars.size());
+        for (const auto& scalar : scalars) texts.push_back(printScalar(scalar));
+        return texts;
+      },
+      value);
+}
+
+Value zeroValue(const ValueType& type) {
+  const std::size_t count = type.isArray() ? 0 : type.componentCount();
+  switch (type.scalar) {
+    case ScalarKind::Boolean:
+      return std::vector<bool>(count);
+    case ScalarKind::Integer:
+      return std::vector<std::int32_t>(count);
+    case ScalarKind::Float:
+      return std::vector<float>(count);
+    case ScalarKind::String:
+      break;
+  }
+  return std::vector<std::string>(count);
+}
+
+const char* toText(ScalarKind kind) { return kScalarKindNames[static_cast<std::size_t>(kind)]; }
+
+std::optional<ScalarKind> scalarKindFromText(const std::string& text) {
+  for (std::size_t i = 0; i < kScalarKindNames.size(); ++i) {
+    if (text == kScalarKindNames[i]) return static_cast<ScalarKind>(i);
+  }
+  return std::nullopt;
+}
+
+}  // namespace orvlib

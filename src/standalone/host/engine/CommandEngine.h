@@ -1,0 +1,69 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "platform/OpenVesk/KStatus.h"
+#include "standalone/host/engine/ResultValue.h"
+#include "standalone/host/engine/RunOptions.h"
+#include "standalone/host/language/Tokenizer.h"
+
+namespace vesk {
+
+class HostSession;
+class Plugin;
+struct CommandEntry;
+
+/// Runs lines: reads them, finds each command, lets it work, and hands its object to the undo
+/// queue.
+class CommandEngine {
+ public:
+  explicit CommandEngine(HostSession& session) : session_(session) {}
+
+  /// Runs a text of the command language. It is read whole before anything of it runs. Stops at the
+  /// first statement that fails and returns its status; `result` is that of the last one that ran.
+  KStatus run(std::string_view text, ResultValue& result, RunOptions options = {});
+
+  /// Whether a command is running.
+  bool isRunning() const { return !frames_.empty(); }
+
+  /// The result of the running command; null outside one.
+  ResultValue* runningResult() { return frames_.empty() ? nullptr : &frames_.back().result; }
+
+  /// Whether a command of this plug-in is running.
+  bool isRunningCommandOf(const Plugin* owner) const;
+
+  /// The name of the running command; empty outside one.
+  std::string_view runningCommand() const;
+
+  /// While it lives, results that commands set are dropped.
+  class ScratchResult {
+   public:
+    explicit ScratchResult(CommandEngine& engine) : engine_(engine) {
+      engine_.frames_.push_back({nullptr, {}, false});
+    }
+    ~ScratchResult() { engine_.frames_.pop_back(); }
+    ScratchResult(const ScratchResult&) = delete;
+    ScratchResult& operator=(const ScratchResult&) = delete;
+
+   private:
+    CommandEngine& engine_;
+  };
+
+ private:
+  struct Frame {
+    const CommandEntry* entry;
+    ResultValue result;
+    bool undo;
+  };
+
+  /// The name of the command that ran the running one; its own when a user did.
+  std::string_view callingCommand() const;
+  KStatus runStatement(Statement& statement, ResultValue& result, bool undo);
+  KStatus refuse(std::string_view message);
+
+  HostSession& session_;
+  std::vector<Frame> frames_;
+};
+
+}  // namespace vesk

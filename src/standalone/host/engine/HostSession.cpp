@@ -1,0 +1,74 @@
+#include "standalone/host/engine/HostSession.h"
+
+#include "standalone/host/commands/BuiltinCommand.h"
+#include "standalone/host/engine/OptionVariables.h"
+#include "standalone/host/engine/StringCatalogues.h"
+#include "standalone/host/scene/Scene.h"
+
+namespace vesk {
+namespace {
+
+HostSession* currentSession = nullptr;
+
+/// Every command of the host itself.
+void registerBuiltins(CommandRegistry& registry) {
+  registerUndoCommands(registry);
+  registerSceneCommands(registry);
+  registerFileCommand(registry);
+  registerOptionVarCommand(registry);
+  registerInformationCommands(registry);
+  registerPluginCommands(registry);
+  registerSessionCommands(registry);
+}
+
+}  // namespace
+
+HostSession::HostSession(SessionOptions options)
+    : options_(std::move(options)),
+      previous_(currentSession),
+      messages_(options_.messages),
+      optionVariables_(std::make_unique<OptionVariables>(options_.preferencesFolder, messages_)),
+      catalogues_(std::make_unique<StringCatalogues>(options_.catalogueFolders, options_.language,
+                                                     messages_)),
+      scene_(std::make_unique<Scene>(messages_, sceneEvents_)),
+      plugins_(*this),
+      undoQueue_(messages_),
+      engine_(*this) {
+  currentSession = this;
+  registerBuiltins(registry_);
+}
+
+HostSession::~HostSession() {
+  exit();
+  plugins_.unloadAll();  // what could not be unloaded at the exit
+  undoQueue_.clear();
+  currentSession = previous_;
+}
+
+HostSession* HostSession::current() { return currentSession; }
+
+KStatus HostSession::runLine(std::string_view text, ResultValue& result) {
+  const KStatus status = engine_.run(text, result);
+  runIdleLines();
+  optionVariables_->saveIfChanged();
+  return status;
+}
+
+void HostSession::runIdleLines() {
+  if (engine_.isRunning()) return;
+  while (!idleQueue_.isEmpty() && !quitRequested) {
+    const IdleQueue::Line line = idleQueue_.take();
+    ResultValue result;
+    engine_.run(line.text, result, {.display = line.display});
+  }
+}
+
+void HostSession::exit() {
+  if (exited_) return;
+  exited_ = true;
+  sceneEvents_.send(SceneEvent::Exiting);
+  plugins_.unloadAll();
+  optionVariables_->saveIfChanged();
+}
+
+}  // namespace vesk

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <deque>
+#include <string>
+
+namespace vesk {
+
+/// Lines that wait until the host is idle.
+class IdleQueue {
+ public:
+  struct Line {
+    std::string text;
+    bool display;
+  };
+
+  void add(Line line) { lines_.push_back(std::move(line)); }
+  bool isEmpty() const { return lines_.empty(); }
+
+  /// The oldest line; there must be one.
+  Line take() {
+    Line line = std::move(lines_.front());
+    lines_.pop_front();
+    return line;
+  }
+
+ private:
+  std::deque<Line> lines_;
+};
+
+}  // namespace vesk

@@ -1,0 +1,172 @@
+#include "standalone/host/engine/HostAccess.h"
+#include "tests/plugin/ModuleTesting.h"
+
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+using EntryPoint = KStatus (*)(KObject);
+
+class PluginMain : public ModuleTest {
+ protected:
+  /// Calls an entry point as the host does, without what the host does around it.
+  KStatus call(const char* entryPoint) {
+    const auto function = reinterpret_cast<EntryPoint>(module()->symbol(entryPoint));
+    return function(HostAccess::object(module()));
+  }
+
+  /// Takes the name of the module's command.
+  void takeName() {
+    const auto help = session_->registry().find("help");
+    session_->registry().add({"orv", help->creator, help->syntax, nullptr, {}});
+  }
+
+  bool listensToTheScene() { return session_->sceneEvents().hasCallbackIn(module()->base()); }
+};
+
+TEST_F(PluginMain, LoadsUnderTheNameOfItsFile) {
+  ASSERT_TRUE(load());
+  EXPECT_EQ(resultOf("pluginInfo -listPlugins"), R"(["veskOrvPlugin"])");
+}
+
+TEST_F(PluginMain, TellsItsVendorAndVersion) {
+  ASSERT_TRUE(load());
+  EXPECT_EQ(resultOf("pluginInfo -vendor veskOrvPlugin"), R"("Tolvane, Inc.")");
+  EXPECT_EQ(resultOf("pluginInfo -version veskOrvPlugin"), R"("2.1.0.178")");
+}
+
+TEST_F(PluginMain, RegistersItsCommands) {
+  ASSERT_TRUE(load());
+  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), R"(["orv"])");
+}
+
+TEST_F(PluginMain, RegistersMessagesThenCommandsThenTheSceneCallback) {
+  ASSERT_TRUE(load());
+  const std::vector<std::string> calls = takeRecordedCalls();
+  ASSERT_EQ(calls.size(), 34u);
+  EXPECT_EQ(calls[0], "registerString rParsingError");
+  EXPECT_EQ(calls[31], "registerString rFlagIsNotQuery");
+  EXPECT_EQ(calls[32], "registerCommand orv");
+  EXPECT_EQ(calls[33], "addCallback 30");
+}
+
+TEST_F(PluginMain, RemovesTheSceneCallbackThenDeregistersItsCommands) {
+  ASSERT_TRUE(load());
+  takeRecordedCalls();
+  ASSERT_TRUE(unload());
+  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback", "deregisterCommand orv"));
+}
+
+TEST_F(PluginMain, LeavesNoCommandAndNoCallbackBehind) {
+  ASSERT_TRUE(load());
+  ASSERT_TRUE(call("uninitializePlugin"));
+  EXPECT_FALSE(session_->registry().hasCommandOf(module().get()));
+  EXPECT_FALSE(listensToTheScene());
+
+  ASSERT_TRUE(call("initializePlugin"));
+}
+
+TEST_F(PluginMain, ATakenNameIsToldAndIsTheStatusOfTheLoad) {
+  takeName();
+  EXPECT_EQ(load().statusCode(), StatusFailure);
+  EXPECT_THAT(takeMessages(),
+              ElementsAre("! Failed to register plugin command: orv",
+                          AllOf(HasSubstr("cannot load the plug-in"),
+                                HasSubstr("initializePlugin failed with status 1"))));
+
+  EXPECT_FALSE(unload());
+  takeMessages();
+}
+
+TEST_F(PluginMain, ATakenNameKeepsItsCommand) {
+  takeName();
+  EXPECT_FALSE(load());
+  EXPECT_EQ(session_->registry().find("orv")->owner, nullptr);
+  EXPECT_FALSE(unload());
+  EXPECT_EQ(session_->registry().find("orv")->owner, nullptr);
+  takeMessages();
+}
+
+TEST_F(PluginMain, AfterATakenNameTheSceneCallbackIsThereAllTheSame) {
+  takeName();
+  EXPECT_FALSE(load());
+  EXPECT_TRUE(listensToTheScene());
+  EXPECT_FALSE(unload());
+  takeMessages();
+}
+
+TEST_F(PluginMain, AFailedDeregistrationIsTheStatusOfTheUnloadAndShowsNothing) {
+  ASSERT_TRUE(load());
+  session_->registry().remove("orv", module().get());
+  EXPECT_EQ(call("uninitializePlugin").statusCode(), StatusFailure);
+  EXPECT_THAT(takeMessages(), IsEmpty());
+
+  EXPECT_TRUE(call("initializePlugin"));
+}
+
+TEST_F(PluginMain, IsLoadedOnce) {
+  ASSERT_TRUE(load());
+  takeRecordedCalls();
+  EXPECT_EQ(load().statusCode(), StatusFailure);
+  EXPECT_THAT(takeMessages(), ElementsAre(HasSubstr("is loaded already")));
+  EXPECT_THAT(takeRecordedCalls(), IsEmpty());
+  EXPECT_EQ(resultOf("orv -rt"), R"(["empty","single"])");
+}
+
+TEST_F(PluginMain, CanBeUnloadedAndLoadedAgain) {
+  for (int i = 0; i < 3; ++i) {
+    ASSERT_TRUE(load());
+    EXPECT_EQ(resultOf("orv -rt"), R"(["empty","single"])");
+    ASSERT_TRUE(unload());
+    EXPECT_EQ(run("orv -rt").statusCode(), StatusBadArgument);
+    EXPECT_THAT(takeMessages(), ElementsAre("! unknown command \"orv\""));
+  }
+}
+
+TEST_F(PluginMain, ListensToTheSceneFromItsLoadOn) {
+  ASSERT_TRUE(load());
+  EXPECT_TRUE(listensToTheScene());
+}
+
+TEST_F(PluginMain, RemovesItsCallbackWhenTheProgramExits) {
+  ASSERT_TRUE(load());
+  takeRecordedCalls();
+  session_->sceneEvents().send(vesk::SceneEvent::Exiting);
+  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback"));
+  EXPECT_FALSE(listensToTheScene());
+}
+
+TEST_F(PluginMain, KeepsItsCommandsWhenTheProgramExits) {
+  ASSERT_TRUE(load());
+  session_->sceneEvents().send(vesk::SceneEvent::Exiting);
+  EXPECT_EQ(resultOf("orv -rt"), R"(["empty","single"])");
+}
+
+TEST_F(PluginMain, RemovesItsCallbackNoSecondTime) {
+  ASSERT_TRUE(load());
+  session_->sceneEvents().send(vesk::SceneEvent::Exiting);
+  session_->sceneEvents().send(vesk::SceneEvent::Exiting);
+  takeRecordedCalls();
+  ASSERT_TRUE(unload());
+  EXPECT_THAT(takeRecordedCalls(), ElementsAre("deregisterCommand orv"));
+}
+
+TEST_F(PluginMain, IgnoresTheOtherEventsOfTheScene) {
+  ASSERT_TRUE(load());
+  takeRecordedCalls();
+  ASSERT_TRUE(run("file -new"));
+  EXPECT_THAT(takeRecordedCalls(), IsEmpty());
+  EXPECT_TRUE(listensToTheScene());
+}
+
+TEST_F(PluginMain, GoesInOrderWhenTheSessionEnds) {
+  ASSERT_TRUE(load());
+  takeRecordedCalls();
+  session_->exit();
+  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback", "deregisterCommand orv"));
+}
+
+}  // namespace

@@ -1,0 +1,120 @@
+#include "standalone/host/engine/Journal.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/OpenVesk/KGlobal.h"
+#include "standalone/host/language/Tokenizer.h"
+#include "tests/support/ProbeCommand.h"
+#include "tests/support/TemporaryFiles.h"
+
+namespace {
+
+using namespace hosttest;
+using ::testing::ElementsAre;
+
+/// A host that writes a journal.
+class JournalTest : public ::testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(host.session().journal().open(files.path("journal"))); }
+
+  std::string journal() const { return files.read("journal"); }
+
+  TemporaryFiles files;
+  ProbeHost host;
+};
+
+TEST_F(JournalTest, HoldsTheLinesInOrderAsTheyWereTyped) {
+  host.run("edit a;  edit \"b c\"");
+  host.run("  about -batch // why");
+  EXPECT_EQ(journal(), "edit a;  edit \"b c\"\n  about -batch // why\n");
+}
+
+TEST_F(JournalTest, HoldsALineAsSoonAsItHasFinished) {
+  host.run("edit a");
+  EXPECT_EQ(journal(), "edit a\n");
+  host.run("edit b");
+  EXPECT_EQ(journal(), "edit a\nedit b\n");
+}
+
+TEST_F(JournalTest, HoldsNoLineThatACommandRan) {
+  addProbe(host, "run", {.doIt = [](KPxCommand&, const KArgList& lines) {
+             return KGlobal::executeCommand(lines.asString(0), true, true);
+           }});
+  host.run("run \"edit a\"");
+  EXPECT_EQ(journal(), "run \"edit a\"\n");
+}
+
+TEST_F(JournalTest, HoldsNoLineOfAScriptThatIsSourced) {
+  const std::string line = "source " + vesk::quoted(files.write("script", "edit a\nedit b\n"));
+  host.run(line);
+  EXPECT_EQ(journal(), line + "\n");
+}
+
+TEST_F(JournalTest, HoldsIdleLines) {
+  KGlobal::executeCommandOnIdle("edit a", true);
+  host.run("about -batch");
+  EXPECT_EQ(journal(), "about -batch\nedit a\n");
+}
+
+TEST_F(JournalTest, TellsWhatIsUnusualAheadOfTheLine) {
+  vesk::ResultValue result;
+  vesk::CommandEngine& engine = host.session().engine();
+  engine.run("edit a", result, {.undo = false});
+  engine.run("edit b", result, {.display = false});
+  engine.run("edit c", result, {.display = false, .undo = false});
+  EXPECT_EQ(journal(),
+            "// without undo\nedit a\n"
+            "// without echo\nedit b\n"
+            "// without undo without echo\nedit c\n");
+}
+
+TEST_F(JournalTest, TellsWhichLinesFailed) {
+  host.refusal("unknown");
+  host.refusal("edit a; undoInfo -closeChunk");
+  EXPECT_EQ(journal(),
+            "// failed with status 3\nunknown\n"
+            "// failed with status 1\nedit a; undoInfo -closeChunk\n");
+}
+
+TEST_F(JournalTest, HoldsALineThatCannotBeReadAsAComment) {
+  host.refusal("edit \"a");
+  host.refusal("edit a\nedit \"b");
+  EXPECT_EQ(journal(),
+            "// failed with status 3\n// not readable: \"edit \\\"a\"\n"
+            "// failed with status 3\n// not readable: \"edit a\\nedit \\\"b\"\n");
+}
+
+TEST_F(JournalTest, LeadsBackToTheSameState) {
+  addProbe(host, "run", {.doIt = [](KPxCommand&, const KArgList& lines) {
+             return KGlobal::executeCommand(lines.asString(0), true, true);
+           }});
+  host.run("edit a\nedit \"b \\\"quoted\\\"\"");
+  host.run("run \"edit c\"; undo; undo");
+  host.run("undoInfo -ock -cn chunk");
+  host.run("edit \u00e9");
+  host.run("undoInfo -cck");
+  host.refusal("edit \"not readable");
+  const Texts steps = host.steps();
+  EXPECT_THAT(steps, ElementsAre("edit a", "chunk"));
+  const std::string script = files.write("again", journal());
+  host.run("undoInfo -state off; undoInfo -state on");
+  host.run("source " + vesk::quoted(script));
+  EXPECT_EQ(host.steps(), steps);
+}
+
+TEST_F(JournalTest, BeginsItsFileAnew) {
+  host.run("edit a");
+  ASSERT_TRUE(host.session().journal().open(files.path("journal")));
+  host.run("edit b");
+  EXPECT_EQ(journal(), "edit b\n");
+}
+
+TEST(Journal, ThatCannotBeWrittenIsNotOpen) {
+  vesk::Journal journal;
+  EXPECT_FALSE(journal.open("/no such folder/journal"));
+  EXPECT_FALSE(journal.isOpen());
+  journal.write("line", {}, StatusSuccess);
+}
+
+}  // namespace
