@@ -93,8 +93,9 @@ TEST_F(JournalOfTheProgram, MarksALineThatFailed) {
   runVesk({"--journal", path("journal"), "--keep-going", "-c", "nonsense", "-c", "echo \"bad", "-c",
            "ls"});
   EXPECT_EQ(journal(),
-            "// failed with status 3\nnonsense\n"
-            "// failed with status 3\n// not readable: \"echo \\\"bad\"\nls\n");
+            "// Error: unknown command \"nonsense\"\n// failed with status 3\nnonsense\n"
+            "// Error: syntax error: line 1, column 6: the quoted text has no end\n"
+            "// failed with status 3\n// not readable: echo \"bad\nls\n");
 }
 
 TEST_F(JournalOfTheProgram, GivesTheSameSceneWhenItIsRunAgain) {

@@ -1,5 +1,7 @@
 #include "standalone/host/commands/BuiltinCommand.h"
 
+#include <algorithm>
+
 namespace vesk {
 
 KSyntax makeSyntax(const CommandRecord& record) {
@@ -23,6 +25,12 @@ KStatus BuiltinCommand::doIt(const KArgList& arguments) {
   KStatus status;
   const KArgDatabase database(syntax(), arguments, &status);
   return status ? run(database) : status;
+}
+
+std::size_t BuiltinCommand::flagsGiven(const KArgDatabase& arguments,
+                                       std::span<const FlagRow> flags) {
+  return std::ranges::count_if(
+      flags, [&](const FlagRow& row) { return arguments.isFlagSet(row.shortName); });
 }
 
 KStatus BuiltinCommand::fail(std::string_view message) {

@@ -44,6 +44,9 @@ class BuiltinCommand : public KPxCommand {
 
   static HostSession& session() { return *HostSession::current(); }
 
+  /// How many flags of a table were given.
+  static std::size_t flagsGiven(const KArgDatabase& arguments, std::span<const FlagRow> flags);
+
   /// Shows an error, with the command's name ahead, and gives `StatusFailure`.
   static KStatus fail(std::string_view message);
 

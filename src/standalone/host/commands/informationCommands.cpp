@@ -67,9 +67,7 @@ class EchoCommand : public BuiltinCommand {
 };
 
 std::string describe(const FlagSpec& flag) {
-  const std::string bareShort =
-      flag.shortName.starts_with('-') ? flag.shortName.substr(1) : flag.shortName;
-  std::string line = "  -" + bareShort + " " + flag.lineName();
+  std::string line = "  " + flag.shortLineName() + " " + flag.lineName();
   for (const ArgType type : flag.arguments) line += " <" + std::string(argTypeName(type)) + ">";
   if (flag.multiUse) line += "  (may be repeated)";
   return line;

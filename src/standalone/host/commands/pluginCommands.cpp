@@ -14,8 +14,9 @@ class LoadPluginCommand : public BuiltinCommand {
   KStatus run(const KArgDatabase& arguments) override {
     KString path;
     if (!arguments.getCommandArgument(0, path)) return fail("the path of the module is missing");
-    const KStatus status = session().plugins().load(std::string(HostAccess::text(path)));
-    if (status) setValue(session().plugins().plugins().back()->name());
+    std::string name;
+    const KStatus status = session().plugins().load(std::string(HostAccess::text(path)), &name);
+    if (status) setValue(name);
     return status;
   }
 };
@@ -47,7 +48,10 @@ class PluginInfoCommand : public BuiltinCommand {
   KStatus run(const KArgDatabase& arguments) override {
     KString name;
     const bool named = static_cast<bool>(arguments.getCommandArgument(0, name));
-    if (arguments.isFlagSet("-ls") || !named) return list();
+    const std::size_t questions = flagsGiven(arguments, kPluginInfoFlags);
+    if (questions > 1) return fail("its flags exclude each other");
+    if (arguments.isFlagSet("-ls") || (!named && questions == 0)) return list();
+    if (!named) return fail("the name of the plug-in is missing");
     const auto plugin = session().plugins().find(HostAccess::text(name));
     if (arguments.isFlagSet("-l")) {
       setValue(plugin && plugin->initialized);

@@ -50,6 +50,9 @@ class UndoInfoCommand : public BuiltinCommand {
 
  private:
   KStatus run(const KArgDatabase& arguments) override {
+    const bool namesChunk = arguments.isFlagSet("-ock") && arguments.isFlagSet("-cn");
+    const std::size_t actions = flagsGiven(arguments, kUndoInfoFlags) - (namesChunk ? 1 : 0);
+    if (actions > 1) return fail("its flags exclude each other, but for -openChunk and -chunkName");
     return arguments.isQuery() ? query(arguments) : change(arguments);
   }
 

@@ -49,16 +49,19 @@ KStatus CommandEngine::run(std::string_view text, ResultValue& result, RunOption
   result = {};
   if (frames_.size() >= kMaximumDepth) return refuse("the line is nested too deeply in commands");
   const bool outermost = frames_.empty();
+  if (!outermost) {
+    options.undo &= frames_.back().undo;
+    options.display &= frames_.back().display;
+  }
   if (options.display) session_.messages().send(MessageKind::Echo, text);
 
   TokenizedText read = tokenize(text);
   KStatus status = read.error ? refuse("syntax error: " + read.error->text()) : KStatus();
   UndoQueue& undoQueue = session_.undoQueue();
-  const bool undo = options.undo && (outermost || frames_.back().undo);
   const bool ownSteps = outermost || options.topLevel;
   if (options.topLevel && !outermost) undoQueue.endStatement(callingCommand());
   for (Statement& statement : read.statements) {
-    status = runStatement(statement, result, undo);
+    status = runStatement(statement, result, options);
     if (ownSteps) undoQueue.endStatement(statement.source);
     if (!status) break;
   }
@@ -66,22 +69,23 @@ KStatus CommandEngine::run(std::string_view text, ResultValue& result, RunOption
   return status;
 }
 
-KStatus CommandEngine::runStatement(Statement& statement, ResultValue& result, bool undo) {
+KStatus CommandEngine::runStatement(Statement& statement, ResultValue& result, RunOptions options) {
   const Token& name = statement.tokens.front();
   const auto entry = session_.registry().find(name.text);
-  if (!entry || name.kind == TokenKind::Quoted) {
-    return refuse("unknown command " + quoted(name.text));
+  if (!entry) return refuse("unknown command " + quotedBriefly(name.text));
+  if (name.kind == TokenKind::Quoted) {
+    return refuse("the name of a command is written without quotes: " + name.text);
   }
   std::unique_ptr<KPxCommand> command(entry->creator());
   if (!command) return refuse("the command " + quoted(name.text) + " could not be created");
   HostAccess::bind(*command, entry);
 
-  frames_.push_back({entry.get(), {}, undo});
+  frames_.push_back({entry.get(), {}, options.undo, options.display});
   const KStatus status = command->doIt(argumentsOf(statement));
   result = std::move(frames_.back().result);
   frames_.pop_back();
 
-  if (status && undo && session_.undoQueue().isRecording() && command->isUndoable()) {
+  if (status && options.undo && session_.undoQueue().isRecording() && command->isUndoable()) {
     session_.undoQueue().record(std::move(command));
   }
   return status;

@@ -40,7 +40,7 @@ class CommandEngine {
   class ScratchResult {
    public:
     explicit ScratchResult(CommandEngine& engine) : engine_(engine) {
-      engine_.frames_.push_back({nullptr, {}, false});
+      engine_.frames_.push_back({nullptr, {}, false, true});
     }
     ~ScratchResult() { engine_.frames_.pop_back(); }
     ScratchResult(const ScratchResult&) = delete;
@@ -55,11 +55,12 @@ class CommandEngine {
     const CommandEntry* entry;
     ResultValue result;
     bool undo;
+    bool display;
   };
 
   /// The name of the command that ran the running one; its own when a user did.
   std::string_view callingCommand() const;
-  KStatus runStatement(Statement& statement, ResultValue& result, bool undo);
+  KStatus runStatement(Statement& statement, ResultValue& result, RunOptions options);
   KStatus refuse(std::string_view message);
 
   HostSession& session_;

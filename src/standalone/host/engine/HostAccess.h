@@ -20,6 +20,11 @@ VESK_API_OPEN
 
 /// The host's way into the representations that its interface hides.
 struct VESK_EXPORT HostAccess {
+  /// Writes to a status that the caller may have left out.
+  static void report(KStatus* status, KStatus value) {
+    if (status) *status = value;
+  }
+
   /// A string that takes over valid UTF-8.
   static KString string(std::string utf8);
   static std::string_view text(const KString& string) { return {string.asUTF8(), string.length()}; }

@@ -33,7 +33,9 @@ HostSession::HostSession(SessionOptions options)
       scene_(std::make_unique<Scene>(messages_, sceneEvents_)),
       plugins_(*this),
       undoQueue_(messages_),
-      engine_(*this) {
+      engine_(*this),
+      journal_(messages_) {
+  messages_.addSink([this](const Message& message) { journal_.note(message); });
   currentSession = this;
   registerBuiltins(registry_);
 }

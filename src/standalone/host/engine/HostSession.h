@@ -23,7 +23,7 @@ struct SessionOptions {
   bool batch = true;                          ///< nobody sits in front of it
   std::string preferencesFolder;              ///< of the option variables; empty: they are not kept
   std::vector<std::string> catalogueFolders;  ///< searched in order for translations
-  std::string language;  ///< like "de" or "de_AT"; empty: texts stay as written
+  std::string language;           ///< like "de" or "de_AT"; empty: texts stay as written
   MessageChannel::Sink messages;  ///< hears every message from the first on; null: nobody
 };
 

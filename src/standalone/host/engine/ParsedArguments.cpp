@@ -12,11 +12,28 @@ bool fits(ArgType type, std::string_view text) {
   double number;
   if (type == kArgDouble) return readDouble(text, number);
   switch (type) {
-    case KSyntax::ArgBoolean: return readBool(text, boolean);
-    case KSyntax::ArgInteger: return readInt(text, integer);
-    case KSyntax::ArgUnsigned: return readUnsigned(text, natural);
-    default: return true;
+    case KSyntax::ArgBoolean:
+      return readBool(text, boolean);
+    case KSyntax::ArgInteger:
+      return readInt(text, integer);
+    case KSyntax::ArgUnsigned:
+      return readUnsigned(text, natural);
+    default:
+      return true;
   }
+}
+
+/// What a type expects, with its range when the text is a number beyond it.
+std::string_view expectation(ArgType type, std::string_view text) {
+  if (!isNumber(text)) return argTypeName(type);
+  const bool whole = text.find_first_not_of("+-0123456789") == std::string_view::npos;
+  if (type == KSyntax::ArgInteger && whole) {
+    return "a whole number from -2147483648 to 2147483647";
+  }
+  if (type == KSyntax::ArgUnsigned && whole) {
+    return "a whole number from 0 to 4294967295";
+  }
+  return type == kArgDouble ? "a number that 64 bits can hold" : argTypeName(type);
 }
 
 std::string counted(std::size_t count, std::string_view noun) {
@@ -71,7 +88,7 @@ unsigned int ParsedArguments::readFlag(unsigned int at) {
   if (readMode(written)) return at + 1;
   const int index = syntax_.findWritten(written);
   if (index == SyntaxData::kUnknown) {
-    refuse("unknown flag " + std::string(written));
+    refuse("unknown flag " + shortened(written));
     return at + 1;
   }
   if (index == SyntaxData::kAmbiguous) {
@@ -126,16 +143,22 @@ void ParsedArguments::readPositional(unsigned int at) {
   } else if (syntax_.repeatsLastArgument() && !types.empty()) {
     checkType(types.back(), at, nullptr);
   } else {
-    refuse("too many arguments: " + quoted(textAt(at)) + " is one more than the " +
+    refuse("too many arguments: " + quotedBriefly(textAt(at)) + " is one more than the " +
            std::to_string(types.size()) + " expected");
   }
 }
 
 void ParsedArguments::checkType(ArgType type, unsigned int at, const FlagSpec* spec) {
-  if (fits(type, textAt(at))) return;
+  const std::string_view text = textAt(at);
+  if (fits(type, text)) return;
   const std::string who =
       spec ? "flag " + spec->lineName() : "argument " + std::to_string(positional_.size());
-  refuse(who + " expects " + std::string(argTypeName(type)) + ", not " + quoted(textAt(at)));
+  refuse(who + " expects " + std::string(expectation(type, text)) + ", not " + quotedBriefly(text));
+}
+
+ArgType ParsedArguments::positionalType(unsigned int index) const {
+  const std::vector<ArgType>& types = syntax_.arguments();
+  return index < types.size() ? types[index] : types.empty() ? KSyntax::ArgNone : types.back();
 }
 
 const ParsedArguments::GivenFlag* ParsedArguments::flag(const char* declaredName,

@@ -44,6 +44,9 @@ class ParsedArguments {
   /// Argument `index` of the flag's first use, else null and the reason in `status`.
   const KString* flagArgument(const char* declaredName, unsigned int index, KStatus& status) const;
 
+  /// As declared; behind the last one, that of the last.
+  ArgType positionalType(unsigned int index) const;
+
   /// Null when too few were given.
   const KString* positional(unsigned int index) const;
   unsigned int positionalCount() const { return static_cast<unsigned int>(positional_.size()); }

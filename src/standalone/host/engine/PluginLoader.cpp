@@ -14,16 +14,10 @@
 namespace vesk {
 namespace {
 
-using EntryPoint = KStatus (*)(KObject);
-
 constexpr const char* kInitialize = "initializePlugin";
 constexpr const char* kUninitialize = "uninitializePlugin";
 constexpr const char* kApiVersionSymbol = "KApiVersion";
 constexpr std::size_t kApiVersionSize = 16;
-
-EntryPoint entryPoint(const Plugin& plugin, const char* name) {
-  return reinterpret_cast<EntryPoint>(plugin.symbol(name));
-}
 
 /// Why the mapped library is no module for this host; empty when it is one.
 std::string missingPart(const Plugin& plugin) {
@@ -79,6 +73,12 @@ std::shared_ptr<Plugin> PluginLoader::map(const std::string& path) {
     refuse(path, dlerror());
     return nullptr;
   }
+  for (const auto& loaded : plugins_) {
+    if (!loaded->isMappedAt(library)) continue;
+    dlclose(library);
+    refuse(path, "it is the module of the plug-in \"" + loaded->name() + "\", loaded already");
+    return nullptr;
+  }
   auto plugin = std::make_shared<Plugin>(name, absolute, library);
   if (const std::string missing = missingPart(*plugin); !missing.empty()) {
     refuse(path, missing);
@@ -92,43 +92,58 @@ bool PluginLoader::hasLeftovers(const Plugin& plugin) const {
          session_.sceneEvents().hasCallbackIn(plugin.base());
 }
 
-KStatus PluginLoader::load(const std::string& path) {
+KStatus PluginLoader::callEntryPoint(const std::shared_ptr<Plugin>& plugin, const char* name) {
+  using EntryPoint = KStatus (*)(KObject);
+  const auto function = reinterpret_cast<EntryPoint>(plugin->symbol(name));
+  plugin->inEntryPoint = true;
+  const KStatus status = function(HostAccess::object(plugin));
+  plugin->inEntryPoint = false;
+  return status;
+}
+
+void PluginLoader::removeLeftovers(const std::shared_ptr<Plugin>& plugin) {
+  session_.undoQueue().removeCommandsOf(plugin.get());
+  session_.registry().removeAllOf(plugin.get());
+  session_.sceneEvents().removeThoseIn(plugin->base());
+  std::erase(plugins_, plugin);
+}
+
+KStatus PluginLoader::load(const std::string& path, std::string* name) {
   const std::shared_ptr<Plugin> plugin = map(path);
   if (!plugin) return StatusFailure;
   plugins_.push_back(plugin);
-  const KStatus status = entryPoint(*plugin, kInitialize)(HostAccess::object(plugin));
+  const KStatus status = callEntryPoint(plugin, kInitialize);
   plugin->initialized = static_cast<bool>(status);
-  if (status) return status;
+  if (status) {
+    if (name) *name = plugin->name();
+    return status;
+  }
   const bool stays = hasLeftovers(*plugin);
-  if (!stays) std::erase(plugins_, plugin);
+  if (!stays) removeLeftovers(plugin);
   return refuse(path, "its initializePlugin failed with status " +
                           std::to_string(status.statusCode()) +
                           (stays ? "; what it registered stays until it is unloaded" : ""));
 }
 
+std::string PluginLoader::reasonToKeep(const Plugin& plugin) const {
+  if (plugin.inEntryPoint) return "one of its entry points is running";
+  if (session_.engine().isRunningCommandOf(&plugin)) return "one of its commands is running";
+  if (session_.sceneEvents().isSending()) return "scene callbacks are running";
+  const UndoQueue& queue = session_.undoQueue();
+  return queue.isUndoing() || queue.isRedoing() ? "an undo or redo is running" : "";
+}
+
 KStatus PluginLoader::unload(std::string_view name) {
-  std::shared_ptr<Plugin> plugin = find(name);
-  std::string reason;
-  if (!plugin) {
-    reason = "no plug-in of that name is loaded";
-  } else if (session_.engine().isRunningCommandOf(plugin.get())) {
-    reason = "one of its commands is running";
-  } else if (session_.sceneEvents().isSending()) {
-    reason = "scene callbacks are running";
-  } else if (session_.undoQueue().isUndoing() || session_.undoQueue().isRedoing()) {
-    reason = "an undo or redo is running";
-  }
+  const std::shared_ptr<Plugin> plugin = find(name);
+  const std::string reason = plugin ? reasonToKeep(*plugin) : "no plug-in of that name is loaded";
   if (!reason.empty()) {
     session_.messages().error("cannot unload the plug-in \"" + std::string(name) + "\": " + reason);
     return StatusFailure;
   }
-  const KStatus status = entryPoint(*plugin, kUninitialize)(HostAccess::object(plugin));
-  session_.undoQueue().removeCommandsOf(plugin.get());
-  session_.registry().removeAllOf(plugin.get());
-  session_.sceneEvents().removeThoseIn(plugin->base());
-  std::erase(plugins_, plugin);
+  const KStatus status = callEntryPoint(plugin, kUninitialize);
+  removeLeftovers(plugin);
   if (!status) {
-    session_.messages().warning("the plug-in \"" + std::string(name) +
+    session_.messages().warning("the plug-in \"" + plugin->name() +
                                 "\" was unloaded, though its uninitializePlugin failed");
   }
   return status;

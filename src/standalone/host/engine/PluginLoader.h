@@ -22,13 +22,16 @@ class Plugin : public HostObject {
   const std::string& path() const { return path_; }
   void* symbol(const char* name) const;
 
+  bool isMappedAt(const void* library) const { return library_ == library; }
+
   /// Where the module is mapped.
   const void* base() const;
 
   // What the module says of itself in its entry points.
   std::string vendor;
   std::string version;
-  bool initialized = false;  ///< its entry point reported success
+  bool initialized = false;   ///< its entry point reported success
+  bool inEntryPoint = false;  ///< one of its entry points is running
 
  private:
   std::string name_;
@@ -43,7 +46,8 @@ class PluginLoader {
 
   /// Maps the module and calls its `initializePlugin`. A module whose entry point fails stays
   /// loaded if it left commands or callbacks behind, until it is unloaded.
-  KStatus load(const std::string& path);
+  /// `name`, where given, receives the plug-in's name on success.
+  KStatus load(const std::string& path, std::string* name = nullptr);
 
   /// Calls `uninitializePlugin`, removes whatever the module left in the host, its commands on the
   /// undo queue among it, and unmaps it.
@@ -58,6 +62,9 @@ class PluginLoader {
 
  private:
   std::shared_ptr<Plugin> map(const std::string& path);
+  static KStatus callEntryPoint(const std::shared_ptr<Plugin>& plugin, const char* name);
+  std::string reasonToKeep(const Plugin& plugin) const;
+  void removeLeftovers(const std::shared_ptr<Plugin>& plugin);
   bool hasLeftovers(const Plugin& plugin) const;
   KStatus refuse(const std::string& path, std::string_view reason) const;
 

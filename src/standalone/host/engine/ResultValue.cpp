@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "standalone/host/language/Tokenizer.h"
+
 namespace vesk {
 namespace {
 
@@ -13,36 +15,20 @@ std::string numberText(Number value) {
   return {buffer, end};
 }
 
+/// Quotes of the command language are those of JSON, but for the other control characters.
 std::string jsonText(std::string_view text) {
   constexpr char kDigits[] = "0123456789abcdef";
-  std::string result = "\"";
-  for (const char c : text) {
-    switch (c) {
-      case '"':
-      case '\\':
-        result += '\\';
-        result += c;
-        break;
-      case '\n':
-        result += "\\n";
-        break;
-      case '\r':
-        result += "\\r";
-        break;
-      case '\t':
-        result += "\\t";
-        break;
-      default:
-        if (static_cast<unsigned char>(c) >= 0x20) {
-          result += c;
-        } else {
-          result += "\\u00";
-          result += kDigits[c >> 4];
-          result += kDigits[c & 15];
-        }
+  std::string result;
+  for (const char c : vesk::quoted(text)) {
+    if (static_cast<unsigned char>(c) >= 0x20) {
+      result += c;
+    } else {
+      result += "\\u00";
+      result += kDigits[c >> 4];
+      result += kDigits[c & 15];
     }
   }
-  return result + '"';
+  return result;
 }
 
 template <class Texts, class Write>

@@ -3,8 +3,10 @@
 namespace vesk {
 
 struct RunOptions {
-  bool display = true;    ///< echo the line
-  bool undo = true;       ///< let its edits enter the undo queue
+  // What the command that runs the line was denied stays denied to the line.
+  bool display = true;  ///< echo the line
+  bool undo = true;     ///< let its edits enter the undo queue
+
   bool topLevel = false;  ///< each statement is an undo step of its own, also inside a command
 };
 

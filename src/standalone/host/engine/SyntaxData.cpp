@@ -31,6 +31,8 @@ std::string_view argTypeName(ArgType type) {
 
 std::string FlagSpec::lineName() const { return "-" + std::string(bare(longName)); }
 
+std::string FlagSpec::shortLineName() const { return "-" + std::string(bare(shortName)); }
+
 bool SyntaxData::addFlag(FlagSpec flag) {
   const std::string shortName(bare(flag.shortName));
   const std::string longName(bare(flag.longName));

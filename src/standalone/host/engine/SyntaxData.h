@@ -28,8 +28,9 @@ struct FlagSpec {
 
   bool isNamed(std::string_view name) const { return name == shortName || name == longName; }
 
-  /// The long name as a line writes it.
+  /// The names as a line writes them.
   std::string lineName() const;
+  std::string shortLineName() const;
 };
 
 /// The representation of a `KSyntax`: flags found by hashed name, in order of declaration.

@@ -165,10 +165,11 @@ void UndoQueue::removeCommandsOf(const Plugin* owner) {
   std::erase_if(undone_, [&](UndoStep& step) { return forgetThoseOf(owner, step.commands); });
   forgetThoseOf(owner, pending_);
   forgetThoseOf(owner, chunk_.commands);
-  for (auto step = done_.end(); step != done_.begin();) {
-    --step;
-    if (forgetThoseOf(owner, step->commands)) step = done_.erase(step);
+  std::deque<UndoStep> kept;
+  for (; !done_.empty(); done_.pop_back()) {
+    if (!forgetThoseOf(owner, done_.back().commands)) kept.push_front(std::move(done_.back()));
   }
+  done_ = std::move(kept);
 }
 
 }  // namespace vesk

@@ -181,4 +181,12 @@ std::string quoted(std::string_view text) {
   return result;
 }
 
+std::string shortened(std::string_view text) {
+  constexpr std::size_t kShownCharacters = 80;
+  const std::size_t end = utf8::offsetOfCharacter(text, kShownCharacters);
+  return std::string(text.substr(0, end)) + (end < text.size() ? "..." : "");
+}
+
+std::string quotedBriefly(std::string_view text) { return quoted(shortened(text)); }
+
 }  // namespace vesk

@@ -48,4 +48,10 @@ bool isNumber(std::string_view word);
 /// The text as one quoted token that reads back as the same text.
 std::string quoted(std::string_view text);
 
+/// The text in quotes as a message shows it: after 80 characters it ends with "...".
+std::string quotedBriefly(std::string_view text);
+
+/// The same without quotes.
+std::string shortened(std::string_view text);
+
 }  // namespace vesk

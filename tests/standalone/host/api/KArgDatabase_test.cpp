@@ -90,6 +90,16 @@ TEST(KArgDatabase, RefusesUnsignedsOutOfRange) {
   }
 }
 
+TEST(KArgDatabase, ReadsThe32BitsOfAPositionalUnsignedAsAnInteger) {
+  KSyntax syntax;
+  syntax.addArg(S::ArgUnsigned);
+  int value = 7;
+  EXPECT_TRUE(Reading(syntax, "4294967295").database.getCommandArgument(0, value));
+  EXPECT_EQ(value, -1);
+  EXPECT_TRUE(Reading(syntax, "2147483647").database.getCommandArgument(0, value));
+  EXPECT_EQ(value, INT_MAX);
+}
+
 TEST(KArgDatabase, ReadsAnUnsignedThatFitsAsAnInteger) {
   EXPECT_EQ(readFlag("-u", "2147483647", 0), success(INT_MAX));
   EXPECT_EQ(readFlag("-u", "2147483648", 77), refused(77));

@@ -67,8 +67,19 @@ TEST(KArgParserRefusals, NameAnArgumentTooMany) {
 
 TEST(KArgParserRefusals, TellTheTypeThatAFlagExpects) {
   EXPECT_EQ(refusal("-count x"), "flag -count expects a whole number, not \"x\"");
-  EXPECT_EQ(refusal("-u -1"), "flag -use expects a whole number from 0, not \"-1\"");
+  EXPECT_EQ(refusal("-u -1"), "flag -use expects a whole number from 0 to 4294967295, not \"-1\"");
   EXPECT_EQ(refusal("-b maybe"), "flag -boolean expects true or false, not \"maybe\"");
+}
+
+TEST(KArgParserRefusals, TellTheRangeThatANumberMisses) {
+  EXPECT_EQ(refusal("-u 4294967296"),
+            "flag -use expects a whole number from 0 to 4294967295, not \"4294967296\"");
+}
+
+TEST(KArgParserRefusals, ShortenLongTexts) {
+  const std::string text(100, 'x');
+  EXPECT_EQ(refusal("-u " + text),
+            "flag -use expects a whole number from 0, not \"" + text.substr(0, 80) + "...\"");
 }
 
 TEST(KArgParserRefusals, TellTheTypeThatAPositionalArgumentExpects) {

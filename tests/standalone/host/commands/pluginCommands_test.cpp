@@ -49,6 +49,16 @@ TEST_F(PluginInfoCommand, RefusesAPluginThatIsNotLoaded) {
               ElementsAre("! pluginInfo: no plug-in \"other\" is loaded"));
 }
 
+TEST_F(PluginInfoCommand, AnswersOneQuestionAtATime) {
+  EXPECT_THAT(host.refusal("pluginInfo -q -vendor -path goodModule"),
+              ElementsAre("! pluginInfo: its flags exclude each other"));
+}
+
+TEST_F(PluginInfoCommand, AQuestionNeedsAPlugin) {
+  EXPECT_THAT(host.refusal("pluginInfo -q -vendor"),
+              ElementsAre("! pluginInfo: the name of the plug-in is missing"));
+}
+
 TEST(PluginInfoWithoutPlugins, ListsNone) { EXPECT_EQ(Host().run("pluginInfo"), "[]"); }
 
 TEST(LoadPluginCommand, WithoutPathSaysWhatIsMissing) {

@@ -56,8 +56,10 @@ TEST(UndoInfoCommand, ALengthMayBeTheGreatestNumber) {
 TEST(UndoInfoCommand, RefusesALengthBelowZero) {
   ProbeHost host;
   host.run("undoInfo -length 5");
-  EXPECT_THAT(host.refusal("undoInfo -length -1"),
-              ElementsAre("! undoInfo: flag -length expects a whole number from 0, not \"-1\""));
+  EXPECT_THAT(
+      host.refusal("undoInfo -length -1"),
+      ElementsAre(
+          "! undoInfo: flag -length expects a whole number from 0 to 4294967295, not \"-1\""));
   EXPECT_EQ(host.run("undoInfo -q -length"), "5");
 }
 
@@ -106,6 +108,18 @@ TEST(UndoInfoCommand, AskingOpensAndClosesNoChunk) {
   host.run("undoInfo -openChunk");
   host.refusal("undoInfo -q -closeChunk");
   EXPECT_TRUE(host.session().undoQueue().hasOpenChunk());
+}
+
+TEST(UndoInfoCommand, RefusesFlagsThatContradictEachOther) {
+  ProbeHost host;
+  const auto refused =
+      ElementsAre("! undoInfo: its flags exclude each other, but for -openChunk and -chunkName");
+  for (const char* flags : {"-openChunk -closeChunk", "-state on -stateWithoutFlush off",
+                            "-undoName -redoName", "-q -length -state"}) {
+    EXPECT_THAT(host.refusal(std::string("undoInfo ") + flags), refused);
+  }
+  EXPECT_FALSE(host.session().undoQueue().hasOpenChunk());
+  EXPECT_TRUE(host.session().undoQueue().isEnabled());
 }
 
 TEST(UndoInfoCommand, IsNoEditItself) {

@@ -59,7 +59,8 @@ TEST(CommandEngine, NamesTellLettersOfEitherCaseApart) {
 
 TEST(CommandEngine, AQuotedTextNamesNoCommand) {
   ProbeHost host;
-  EXPECT_THAT(host.refusal("\"edit\" a"), ElementsAre("! unknown command \"edit\""));
+  EXPECT_THAT(host.refusal("\"edit\" a"),
+              ElementsAre("! the name of a command is written without quotes: edit"));
 }
 
 TEST(CommandEngine, AFlagNamesNoCommand) {

@@ -12,6 +12,7 @@ namespace {
 
 using namespace hosttest;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 
 /// A host that writes a journal.
 class JournalTest : public ::testing::Test {
@@ -73,16 +74,42 @@ TEST_F(JournalTest, TellsWhichLinesFailed) {
   host.refusal("unknown");
   host.refusal("edit a; undoInfo -closeChunk");
   EXPECT_EQ(journal(),
-            "// failed with status 3\nunknown\n"
+            "// Error: unknown command \"unknown\"\n// failed with status 3\nunknown\n"
+            "// Error: undoInfo: no undo chunk is open\n"
             "// failed with status 1\nedit a; undoInfo -closeChunk\n");
 }
 
 TEST_F(JournalTest, HoldsALineThatCannotBeReadAsAComment) {
   host.refusal("edit \"a");
+  EXPECT_THAT(journal(), EndsWith("// failed with status 3\n// not readable: edit \"a\n"));
   host.refusal("edit a\nedit \"b");
-  EXPECT_EQ(journal(),
-            "// failed with status 3\n// not readable: \"edit \\\"a\"\n"
-            "// failed with status 3\n// not readable: \"edit a\\nedit \\\"b\"\n");
+  EXPECT_THAT(journal(), EndsWith("// not readable: edit a\\x0aedit \"b\n"));
+}
+
+TEST_F(JournalTest, StaysReadableWhateverTheLineHeld) {
+  host.refusal(std::string_view("edit \xFF\0 \"b", 10));
+  EXPECT_THAT(journal(), EndsWith("// not readable: edit \\xff\\x00 \"b\n"));
+  host.run("source " + vesk::quoted(files.path("journal")));
+}
+
+TEST_F(JournalTest, HoldsErrorsAndWarningsAheadOfTheirLine) {
+  addProbe(host, "tell", {.doIt = [](KPxCommand&, const KArgList&) {
+             KGlobal::displayWarning("take\ncare");
+             KGlobal::displayError("wrong");
+             return KStatus();
+           }});
+  host.run("tell");
+  EXPECT_THAT(host.takeMessages(), ElementsAre("? take\ncare", "! wrong"));
+  EXPECT_EQ(journal(), "// Warning: take\\x0acare\n// Error: wrong\ntell\n");
+}
+
+TEST(JournalOnAFullDisk, IsToldOnce) {
+  ProbeHost host;
+  ASSERT_TRUE(host.session().journal().open("/dev/full"));
+  host.run("edit a");
+  EXPECT_THAT(host.takeMessages(),
+              ElementsAre("! the journal \"/dev/full\" cannot be written any more"));
+  host.run("edit b");
 }
 
 TEST_F(JournalTest, LeadsBackToTheSameState) {
@@ -111,9 +138,9 @@ TEST_F(JournalTest, BeginsItsFileAnew) {
 }
 
 TEST(Journal, ThatCannotBeWrittenIsNotOpen) {
-  vesk::Journal journal;
+  vesk::MessageChannel messages;
+  vesk::Journal journal(messages);
   EXPECT_FALSE(journal.open("/no such folder/journal"));
-  EXPECT_FALSE(journal.isOpen());
   journal.write("line", {}, StatusSuccess);
 }
 

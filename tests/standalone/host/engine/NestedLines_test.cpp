@@ -102,6 +102,14 @@ TEST(NestedLines, AreEchoedWhenTheyAreShown) {
   EXPECT_THAT(host.takeEchoes(), ElementsAre("run \"edit a\"", "edit a"));
 }
 
+TEST(NestedLines, OfALineThatIsNotShownAreNotShownEither) {
+  ProbeHost host;
+  addProbe(host, "run", runner());
+  host.takeEchoes();
+  KGlobal::executeCommand("run \"edit a\"", false, true);
+  EXPECT_THAT(host.takeEchoes(), IsEmpty());
+}
+
 TEST(NestedLines, AFailureStopsOnlyTheirOwnLine) {
   ProbeHost host;
   addProbe(host, "try", {.doIt = [](KPxCommand&, const KArgList& lines) {

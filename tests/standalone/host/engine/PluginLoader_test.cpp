@@ -148,6 +148,38 @@ TEST(PluginLoader, AModuleThatLeavesACommandAndCannotStartStaysUntilItIsUnloaded
   EXPECT_FALSE(isMapped("leavingFailingModule"));
 }
 
+TEST(PluginLoader, AModuleThatCannotStartTakesItsEditsWithIt) {
+  Host host;
+  host.refusal(loading(pathOf("editingFailingModule")));
+  EXPECT_FALSE(isMapped("editingFailingModule"));
+  EXPECT_THAT(host.steps(), IsEmpty());
+  EXPECT_THAT(host.refusal("undo"), ElementsAre("! cannot undo: there is nothing to undo"));
+}
+
+TEST(PluginLoader, AModuleCannotUnloadItselfInItsEntryPoints) {
+  const std::string refusal =
+      "! cannot unload the plug-in \"leavingModule\": one of its entry points is running";
+  Host host;
+  EXPECT_EQ(host.run(loading(pathOf("leavingModule"))), "\"leavingModule\"");
+  EXPECT_THAT(host.takeMessages(), ElementsAre(refusal));
+  host.run("fleeting; unloadPlugin leavingModule");
+  EXPECT_THAT(host.takeMessages(), ElementsAre(refusal));
+  EXPECT_FALSE(isMapped("leavingModule"));
+}
+
+TEST(PluginLoader, AModuleIsNotLoadedAgainUnderTheNameOfALink) {
+  const TemporaryFiles files;
+  std::filesystem::create_symlink(pathOf("goodModule"), files.path("other.so"));
+  Host host;
+  host.run(loading(pathOf("goodModule")));
+  EXPECT_THAT(
+      host.refusal(loading(files.path("other.so"))),
+      ElementsAre(refusalOf(files.path("other.so"),
+                            "it is the module of the plug-in \"goodModule\", loaded already")));
+  unloadGood(host);
+  EXPECT_FALSE(isMapped("goodModule"));
+}
+
 TEST(PluginLoader, WhatIsRefusedCanBeLoadedLater) {
   const TemporaryFiles files;
   Host host;

@@ -11,6 +11,14 @@ KStatus readAs(const KString& text, Value& value, Reader reader) {
   return reader(HostAccess::text(text), value) ? StatusSuccess : StatusBadArgument;
 }
 
+/// The 32 bits of an argument that was declared without a sign fit into an int as well.
+bool readBits(std::string_view text, int& value) {
+  unsigned int bits = 0;
+  if (!vesk::readUnsigned(text, bits)) return false;
+  value = static_cast<int>(bits);
+  return true;
+}
+
 template <class Value, class Reader>
 KStatus readFlag(const KArgParser& parser, const char* flag, unsigned int index, Value& value,
                  Reader reader) {
@@ -55,8 +63,11 @@ KStatus KArgDatabase::getCommandArgument(unsigned int index, KString& value) con
 }
 
 KStatus KArgDatabase::getCommandArgument(unsigned int index, int& value) const {
-  const KString* text = HostAccess::parsed(*this).positional(index);
-  return text ? readAs(*text, value, vesk::readInt) : StatusFailure;
+  const vesk::ParsedArguments& parsed = HostAccess::parsed(*this);
+  const KString* text = parsed.positional(index);
+  if (!text) return StatusFailure;
+  const bool unsign = parsed.positionalType(index) == KSyntax::ArgUnsigned;
+  return readAs(*text, value, unsign ? readBits : vesk::readInt);
 }
 
 VESK_API_CLOSE

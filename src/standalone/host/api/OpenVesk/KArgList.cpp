@@ -6,14 +6,6 @@
 
 VESK_API_OPEN
 
-namespace {
-
-void report(KStatus* status, KStatus value) {
-  if (status) *status = value;
-}
-
-}  // namespace
-
 KArgList::KArgList() = default;
 
 KArgList::KArgList(const KArgList& other) : rep_(other.rep_) {
@@ -31,13 +23,13 @@ KArgList::~KArgList() {
 }
 
 unsigned int KArgList::length(KStatus* status) const {
-  report(status, StatusSuccess);
+  HostAccess::report(status, StatusSuccess);
   return rep_ ? rep_->count : 0;
 }
 
 KString KArgList::asString(unsigned int index, KStatus* status) const {
   const bool there = index < length();
-  report(status, there ? StatusSuccess : StatusFailure);
+  HostAccess::report(status, there ? StatusSuccess : StatusFailure);
   return there ? (*rep_->array)[rep_->first + index].text : KString();
 }
 
@@ -46,7 +38,7 @@ bool KArgList::asBool(unsigned int index, KStatus* status) const {
   const KString text = asString(index, &read);
   bool value = false;
   if (read && !vesk::readBool(HostAccess::text(text), value)) read = StatusBadArgument;
-  report(status, read);
+  HostAccess::report(status, read);
   return value;
 }
 

@@ -7,10 +7,6 @@ VESK_API_OPEN
 
 namespace {
 
-void report(KStatus* status, KStatus value) {
-  if (status) *status = value;
-}
-
 void displayRefusal(const std::string& refusal) {
   vesk::HostSession* session = vesk::HostSession::current();
   if (!session) return;
@@ -24,7 +20,7 @@ KArgParser::KArgParser(const KSyntax& syntax, const KArgList& args, KStatus* sta
     : rep_(new Rep{syntax, {HostAccess::data(syntax), HostAccess::argumentsOf(args)}}) {
   const std::string& refusal = rep_->parsed.refusal();
   if (!refusal.empty()) displayRefusal(refusal);
-  report(status, refusal.empty() ? StatusSuccess : StatusBadArgument);
+  HostAccess::report(status, refusal.empty() ? StatusSuccess : StatusBadArgument);
 }
 
 KArgParser::~KArgParser() { delete rep_; }
@@ -32,17 +28,18 @@ KArgParser::~KArgParser() { delete rep_; }
 bool KArgParser::isFlagSet(const char* flag, KStatus* status) const {
   KStatus found;
   const bool given = rep_->parsed.flag(flag, found) != nullptr;
-  report(status, found.statusCode() == StatusBadArgument ? StatusBadArgument : StatusSuccess);
+  HostAccess::report(status,
+                     found.statusCode() == StatusBadArgument ? StatusBadArgument : StatusSuccess);
   return given;
 }
 
 bool KArgParser::isQuery(KStatus* status) const {
-  report(status, StatusSuccess);
+  HostAccess::report(status, StatusSuccess);
   return rep_->parsed.isQuery();
 }
 
 bool KArgParser::isEdit(KStatus* status) const {
-  report(status, StatusSuccess);
+  HostAccess::report(status, StatusSuccess);
   return rep_->parsed.isEdit();
 }
 
@@ -66,7 +63,7 @@ KString KArgParser::flagArgumentString(const char* flag, unsigned int index,
                                        KStatus* status) const {
   KStatus found;
   const KString* text = rep_->parsed.flagArgument(flag, index, found);
-  report(status, found);
+  HostAccess::report(status, found);
   return text ? *text : KString();
 }
 
@@ -75,7 +72,7 @@ int KArgParser::flagArgumentInt(const char* flag, unsigned int index, KStatus* s
   const KString* text = rep_->parsed.flagArgument(flag, index, found);
   int value = 0;
   if (text && !vesk::readInt(HostAccess::text(*text), value)) found = StatusBadArgument;
-  report(status, found);
+  HostAccess::report(status, found);
   return value;
 }
 
