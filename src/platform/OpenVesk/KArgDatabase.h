@@ -4,8 +4,8 @@
 
 VESK_API_OPEN
 
-/// A `KArgParser` that reads into variables and knows positional arguments. A failed read leaves the
-/// variable unchanged and shows nothing.
+/// A `KArgParser` that reads into variables and knows positional arguments. A failed read leaves
+/// the variable unchanged and shows nothing.
 class VESK_EXPORT KArgDatabase : public KArgParser {
  public:
   KArgDatabase(const KSyntax& syntax, const KArgList& args, KStatus* status = nullptr);

@@ -14,8 +14,8 @@ class VESK_EXPORT KArgList {
 
   unsigned int length(KStatus* status = nullptr) const;
 
-  /// The argument at `index`. `StatusFailure` past the end; `asBool` gives `StatusBadArgument` for a
-  /// text that is no boolean. The value is then false or empty.
+  /// The argument at `index`. `StatusFailure` past the end; `asBool` gives `StatusBadArgument` for
+  /// a text that is no boolean. The value is then false or empty.
   bool asBool(unsigned int index, KStatus* status = nullptr) const;
   KString asString(unsigned int index, KStatus* status = nullptr) const;
 

@@ -11,9 +11,9 @@ VESK_API_OPEN
 /// `StatusBadArgument`; what did fit can still be read. Too few positional arguments are no such
 /// refusal: reading the missing one fails.
 ///
-/// Flags are asked for by their declared short or long name, exactly as declared. An undeclared name
-/// gives `StatusBadArgument`, a flag or argument that is not there `StatusFailure`. A status pointer
-/// may be null.
+/// Flags are asked for by their declared short or long name, exactly as declared. An undeclared
+/// name gives `StatusBadArgument`, a flag or argument that is not there `StatusFailure`. A status
+/// pointer may be null.
 class VESK_EXPORT KArgParser {
  public:
   KArgParser(const KSyntax& syntax, const KArgList& args, KStatus* status = nullptr);

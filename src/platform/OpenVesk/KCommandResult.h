@@ -24,8 +24,8 @@ class VESK_EXPORT KCommandResult {
 
   Type resultType(KStatus* status = nullptr) const;
 
-  /// `StatusFailure`, with the variable unchanged, when the result is of another kind. A bool and an
-  /// unsigned that fits read as an int; nothing else converts.
+  /// `StatusFailure`, with the variable unchanged, when the result is of another kind. A bool and
+  /// an unsigned that fits read as an int; nothing else converts.
   KStatus getResult(int& value) const;
   KStatus getResult(KString& value) const;
   KStatus getResult(KStringArray& value) const;

@@ -8,8 +8,8 @@ VESK_API_OPEN
 
 /// Services of the host.
 ///
-/// `displayEnabled` lets the line be shown wherever the host shows lines that ran; `undoEnabled` lets its
-/// edits enter the undo queue.
+/// `displayEnabled` lets the line be shown wherever the host shows lines that ran; `undoEnabled`
+/// lets its edits enter the undo queue.
 class VESK_EXPORT KGlobal {
  public:
   /// Runs a line at once, on the calling thread. The status is that of the first statement that

@@ -7,7 +7,8 @@ VESK_API_OPEN
 /// The host's translated texts.
 class VESK_EXPORT KStringResource {
  public:
-  /// `StatusBadArgument` for an id without plug-in id or key. Registering again replaces the default.
+  /// `StatusBadArgument` for an id without plug-in id or key. Registering again replaces the
+  /// default.
   static KStatus registerString(const KStringResourceId& id);
 
   /// The text in the user's language, else the default text. `StatusFailure` for an id that was not

@@ -20,7 +20,8 @@ class VESK_EXPORT KSyntax {
   KSyntax& operator=(const KSyntax& other);
   virtual ~KSyntax();
 
-  /// Declares a flag with up to six arguments. The names are kept as given, with or without a leading
+  /// Declares a flag with up to six arguments. The names are kept as given, with or without a
+  /// leading
   /// "-"; a command line always writes them with one. `StatusBadArgument` when a name is empty or
   /// taken, or an argument follows an `ArgNone`.
   KStatus addFlag(const char* shortName, const char* longName, KArgType arg1 = ArgNone,

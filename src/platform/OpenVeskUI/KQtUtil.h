@@ -13,9 +13,9 @@ class VESK_EXPORT KQtUtil {
   /// area. Null when there is no window.
   static QWidget* getCurrentParent();
 
-  /// Docks the child into the parent's layout, whose Qt parent chain then owns it. `name` becomes the
-  /// child's object name unless it is empty. Returns the object name that the child has then; empty
-  /// when child or parent is null.
+  /// Docks the child into the parent's layout, whose Qt parent chain then owns it. `name` becomes
+  /// the child's object name unless it is empty. Returns the object name that the child has then;
+  /// empty when child or parent is null.
   static KString addWidgetToVeskLayout(QWidget* child, QWidget* parent, const KString& name);
 
   /// A size in pixels at the interface scale of 100 percent, at the scale in force.
