@@ -86,6 +86,14 @@ TEST(VersionDump, WithEveryStreamClosedTheProgramRunsAllTheSame) {
   EXPECT_EQ(run.status, 0);
 }
 
+TEST(VersionDump, IsNotTriedWithoutAFileBehindStandardError) {
+  const ProgramRun run =
+      runProcess(VESK_BUILD_DIR "/bin/versionDumpClosedStream",
+                 {VESK_BUILD_DIR "/plug-ins/veskOrvPlugin.so"}, {.variables = {{kVariable, "1"}}});
+  EXPECT_EQ(run.out + run.err, "");
+  EXPECT_EQ(run.status, 0);
+}
+
 TEST(VersionDump, HappensWhileTheModuleIsMappedBeforeAnyEntryPointIsCalled) {
   setenv(kVariable, "1", 1);
   testing::internal::CaptureStderr();

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "standalone/vesk/ProgramOptions.h"
 
@@ -17,9 +18,10 @@ struct PlacedLine {
 /// Gives one line after the other, and nothing at the end.
 using LineSource = std::function<std::optional<PlacedLine>()>;
 
-/// The lines of one input. Nothing, and the reason, when a script cannot be read.
-std::optional<LineSource> openInput(const ProgramOptions::Input& input, std::size_t number,
-                                    std::string& reason);
+/// The lines of all inputs, in order. The scripts are read whole at once: nothing, and the reason,
+/// when one of them cannot be.
+std::optional<LineSource> openInputs(const std::vector<ProgramOptions::Input>& inputs,
+                                     std::string& reason);
 
 /// The lines of standard input, each as soon as it is there.
 LineSource standardInput();

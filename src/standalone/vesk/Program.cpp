@@ -3,6 +3,8 @@
 #include <unistd.h>
 
 #include <QSaveFile>
+#include <algorithm>
+#include <filesystem>
 #include <iostream>
 
 #include "standalone/host/engine/HostVersion.h"
@@ -24,21 +26,19 @@ int cannotStart(std::string_view reason) {
   return kCannotStart;
 }
 
-/// Runs the lines of one source after the other.
+/// Runs lines until one fails, unless it shall keep going, or quits.
 class LineRunner {
  public:
   LineRunner(Platform& platform, LineListener& listener, bool keepGoing)
       : platform_(platform), listener_(listener), keepGoing_(keepGoing) {}
 
-  /// False when the program shall read no more lines.
-  bool run(LineSource source, bool tellPlace) {
+  /// Runs what the start-up left for idle time, then the lines of the source.
+  void run(const LineSource& source, bool tellPlace) {
+    if (!goesOnAfter(platform_.session().runIdleLines(), "start-up: ")) return;
     while (const auto line = source()) {
       const KStatus status = platform_.runLine(line->text, listener_);
-      if (!status) failed_ = true;
-      if (!status) tellFailure(tellPlace ? line->place + ": " : "", status);
-      if ((!status && !keepGoing_) || platform_.session().quitRequested) return false;
+      if (!goesOnAfter(status, tellPlace ? line->place + ": " : "")) return;
     }
-    return true;
   }
 
   int exitStatus() const {
@@ -49,6 +49,14 @@ class LineRunner {
   }
 
  private:
+  bool goesOnAfter(KStatus status, const std::string& place) {
+    if (!status) {
+      failed_ = true;
+      tellFailure(place, status);
+    }
+    return (status || keepGoing_) && !platform_.session().quitRequested;
+  }
+
   static void tellFailure(const std::string& place, KStatus status) {
     std::cout.flush();
     std::cerr << place << "the line failed with status " << status.statusCode() << std::endl;
@@ -60,35 +68,21 @@ class LineRunner {
   bool failed_ = false;
 };
 
-bool runInputs(const ProgramOptions& options, LineRunner& runner, int& status) {
-  std::size_t lines = 0;
-  for (const ProgramOptions::Input& input : options.inputs) {
-    if (input.kind == ProgramOptions::Input::Kind::Line) ++lines;
-    std::string reason;
-    auto source = openInput(input, lines, reason);
-    if (!source) {
-      status = cannotStart("cannot read the script \"" + input.text + "\": " + reason);
-      return false;
-    }
-    if (!runner.run(std::move(*source), true)) break;
-  }
-  return true;
-}
-
 int runAll(const ProgramOptions& options, LineListener& listener, Console& console) {
+  std::string reason;
+  const auto inputs = openInputs(options.inputs, reason);
+  if (!inputs) return cannotStart(reason);
   Platform platform(options, console, !options.transcript);
   if (!platform.problem().empty()) return cannotStart(platform.problem());
 
-  const bool prompt = options.inputs.empty() && !options.batch && isatty(STDIN_FILENO);
-  LineRunner runner(platform, listener, options.keepGoing || prompt);
-  int status = kAllWell;
-  if (prompt) {
+  LineRunner runner(platform, listener, options.keepGoing || !options.batch);
+  if (!options.batch) {
     const std::string& folder = platform.session().options().preferencesFolder;
-    runner.run(promptLines(platform.session().registry(), folder + "/history"), false);
-  } else if (options.inputs.empty()) {
-    runner.run(standardInput(), true);
-  } else if (!runInputs(options, runner, status)) {
-    return status;
+    runner.run(
+        promptLines(platform.session().registry(), folder.empty() ? "" : folder + "/history"),
+        false);
+  } else {
+    runner.run(options.inputs.empty() ? standardInput() : *inputs, true);
   }
   return runner.exitStatus();
 }
@@ -104,7 +98,7 @@ bool writeAtomically(const std::string& path, const std::string& text) {
 /// Runs one transcript in a platform of its own.
 int checkTranscript(const ProgramOptions& options, const std::string& path) {
   std::string reason;
-  const auto before = readScript(path, reason);
+  const auto before = readScript(path, reason, Pipes::Allowed);
   if (!before) return cannotStart("cannot read the transcript \"" + path + "\": " + reason);
 
   Console console(std::cout, std::cerr);
@@ -113,13 +107,15 @@ int checkTranscript(const ProgramOptions& options, const std::string& path) {
   const auto run = [&platform](std::string_view line, LineListener& writer) {
     platform.runLine(line, writer);
   };
+  const int statusWhenTrue = platform.session().runIdleLines() ? kAllWell : kLineFailed;
   const std::string after = rerunTranscript(*before, run, reason);
   if (!reason.empty()) return cannotStart(path + ": " + reason);
   const std::string difference = textDiff(*before, after);
-  if (difference.empty()) return kAllWell;
+  if (difference.empty()) return statusWhenTrue;
   std::cout << path << (options.update ? ": updated\n" : ": differs\n") << difference;
   if (!options.update) return kLineFailed;
-  return writeAtomically(path, after) ? kAllWell : cannotStart("cannot write \"" + path + "\"");
+  return writeAtomically(path, after) ? statusWhenTrue
+                                      : cannotStart("cannot write \"" + path + "\"");
 }
 
 int checkTranscripts(const ProgramOptions& options) {
@@ -128,6 +124,23 @@ int checkTranscripts(const ProgramOptions& options) {
     worst = std::max(worst, checkTranscript(options, input.text));
   }
   return worst;
+}
+
+/// What is read and would be emptied by the journal; else nothing.
+std::string scriptUnderJournal(const ProgramOptions& options) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(options.journal, error)) return {};
+  if (options.inputs.empty()) {
+    const bool same = std::filesystem::equivalent(options.journal, "/dev/stdin", error);
+    return same ? "standard input" : "";
+  }
+  for (const ProgramOptions::Input& input : options.inputs) {
+    if (input.kind != ProgramOptions::Input::Kind::Script) continue;
+    if (std::filesystem::equivalent(options.journal, input.text, error)) {
+      return "the script \"" + input.text + "\"";
+    }
+  }
+  return {};
 }
 
 int runAsAsked(int argc, char** argv) {
@@ -142,6 +155,9 @@ int runAsAsked(int argc, char** argv) {
     std::cout << "vesk " << kHostVersion << '\n';
     return kAllWell;
   }
+  const std::string overwritten = scriptUnderJournal(options);
+  if (!overwritten.empty()) return cannotStart("the journal would overwrite " + overwritten);
+  options.batch = options.batch || !options.inputs.empty() || !isatty(STDIN_FILENO);
   if (options.check) return checkTranscripts(options);
   Console console(std::cout, std::cerr);
   if (!options.transcript) return runAll(options, console, console);

@@ -19,7 +19,7 @@ struct ProgramOptions {
   std::string preferencesFolder;
   std::string journal;
   std::string language;
-  bool batch = false;
+  bool batch = false;  ///< never prompt; whoever runs the lines sets it when nobody can answer
   bool transcript = false;
   bool check = false;
   bool update = false;

@@ -2,6 +2,7 @@
 
 #include <editline/readline.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -37,6 +38,17 @@ std::string_view lastStatement(std::string_view line) {
   return line;
 }
 
+/// The modes too, which are no flags of the syntax.
+std::vector<std::string> flagCompletions(const SyntaxData& syntax, std::string_view word) {
+  std::vector<std::string> names = syntax.completions(word);
+  const auto offer = [&](const std::string& mode) {
+    if (mode.starts_with(word)) names.push_back(mode);
+  };
+  if (syntax.hasQuery()) offer("-query");
+  if (syntax.hasEdit()) offer("-edit");
+  return names;
+}
+
 void rememberLine(const char* line, const std::string& historyFile) {
   if (!*line) return;
   add_history(line);
@@ -52,7 +64,7 @@ std::vector<std::string> completions(const CommandRegistry& registry, std::strin
   if (command.size() < statement.size()) {
     const auto entry = registry.find(command);
     if (!entry || !word.starts_with('-')) return {};
-    return HostAccess::data(entry->syntax).completions(word);
+    return flagCompletions(HostAccess::data(entry->syntax), word);
   }
   std::vector<std::string> names = registry.names();
   std::erase_if(names, [word](const std::string& name) { return !name.starts_with(word); });

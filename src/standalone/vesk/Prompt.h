@@ -11,7 +11,7 @@ namespace vesk {
 class CommandRegistry;
 
 /// What can stand at the end of `line`, whose last word is `word`: command names for the first word
-/// of a statement, flags behind it when the word begins with "-".
+/// of a statement, flags and modes behind it when the word begins with "-".
 std::vector<std::string> completions(const CommandRegistry& registry, std::string_view line,
                                      std::string_view word);
 

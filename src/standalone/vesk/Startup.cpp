@@ -10,7 +10,7 @@ namespace {
 
 SessionOptions sessionOptions(const ProgramOptions& options, bool kept) {
   SessionOptions session;
-  session.batch = true;
+  session.batch = options.batch;
   session.preferencesFolder = options.preferencesFolder;
   session.language = options.language;
   session.catalogueFolders = {shippedCatalogueFolder()};

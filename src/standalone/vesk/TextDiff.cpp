@@ -4,6 +4,8 @@
 #include <span>
 #include <vector>
 
+#include "standalone/host/engine/ScriptReader.h"
+
 namespace vesk {
 namespace {
 
@@ -16,11 +18,7 @@ struct Edit {
 
 Lines splitLines(std::string_view text) {
   Lines lines;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    lines.push_back(text.substr(0, end));
-    text.remove_prefix(std::min(end + 1, text.size()));
-  }
+  while (!text.empty()) lines.push_back(takeLine(text));
   return lines;
 }
 

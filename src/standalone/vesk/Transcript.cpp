@@ -1,5 +1,6 @@
 #include "standalone/vesk/Transcript.h"
 
+#include <algorithm>
 #include <array>
 #include <sstream>
 

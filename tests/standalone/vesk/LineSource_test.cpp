@@ -15,7 +15,7 @@ using vesk::ProgramOptions;
 
 std::vector<std::string> linesOf(ProgramOptions::Input::Kind kind, const std::string& text) {
   std::string reason;
-  auto source = vesk::openInput({kind, text}, 3, reason);
+  const auto source = vesk::openInputs({{kind, text}}, reason);
   EXPECT_TRUE(source) << reason;
   std::vector<std::string> lines;
   while (const auto line = (*source)()) lines.push_back(line->place + "|" + line->text);
@@ -50,19 +50,19 @@ TEST(LineSource, GivesNothingForAnEmptyScript) { EXPECT_THAT(linesOfScript(""), 
 
 TEST(LineSource, GivesALineOfTheCommandLineOnce) {
   EXPECT_THAT(linesOf(ProgramOptions::Input::Kind::Line, "echo a; echo b"),
-              ElementsAre("-c 3|echo a; echo b"));
-  EXPECT_THAT(linesOf(ProgramOptions::Input::Kind::Line, ""), ElementsAre("-c 3|"));
+              ElementsAre("-c 1|echo a; echo b"));
+  EXPECT_THAT(linesOf(ProgramOptions::Input::Kind::Line, ""), ElementsAre("-c 1|"));
 }
 
 TEST(LineSource, SplitsSeveralLinesOfTheCommandLine) {
   EXPECT_THAT(linesOf(ProgramOptions::Input::Kind::Line, "echo a\necho b\n"),
-              ElementsAre("-c 3:1|echo a", "-c 3:2|echo b"));
+              ElementsAre("-c 1:1|echo a", "-c 1:2|echo b"));
 }
 
 TEST(LineSource, SaysWhyAScriptCannotBeRead) {
   std::string reason;
-  EXPECT_FALSE(vesk::openInput({ProgramOptions::Input::Kind::Script, "/"}, 1, reason));
-  EXPECT_EQ(reason, "it is a folder");
+  EXPECT_FALSE(vesk::openInputs({{ProgramOptions::Input::Kind::Script, "/"}}, reason));
+  EXPECT_EQ(reason, "cannot read the script \"/\": it is a folder");
 }
 
 TEST(StandardInput, IsRunLineByLine) {
@@ -92,6 +92,21 @@ TEST(StandardInput, TellsTheLineThatFails) {
   EXPECT_EQ(run.out, "one\n");
   EXPECT_THAT(run.err, HasSubstr("standard input:2: the line failed with status 3\n"));
   EXPECT_EQ(run.status, 1);
+}
+
+TEST(StandardInput, MayBeginWithAByteOrderMark) {
+  const ProgramRun run = runInput(
+      "\xEF\xBB\xBF"
+      "echo one\necho two\n");
+  EXPECT_EQ(run.out, "one\ntwo\n");
+  EXPECT_EQ(run.err, "");
+}
+
+TEST(StandardInput, HasAByteOrderMarkOnItsFirstLineOnly) {
+  EXPECT_EQ(runInput("echo one\n\xEF\xBB\xBF"
+                     "echo two\n")
+                .out,
+            "one\n");
 }
 
 TEST(StandardInput, RefusesZeroBytesWithTheirPlaceAndGoesOn) {

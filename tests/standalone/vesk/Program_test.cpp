@@ -88,6 +88,45 @@ TEST(Program, CannotRunAMissingScript) {
   EXPECT_EQ(run.status, 2);
 }
 
+TEST(Program, RunsNothingWhenOneOfItsScriptsCannotBeRead) {
+  const TemporaryFolder folder;
+  const std::string journal = folder.write("journal", "of the last time\n");
+  const ProgramRun run = runVesk({"--journal", journal, "-c", "echo never", "nowhere.vesk"});
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err, "vesk: cannot read the script \"nowhere.vesk\": No such file or directory\n");
+  EXPECT_EQ(run.status, 2);
+  EXPECT_EQ(readWholeFile(journal), "of the last time\n");
+}
+
+TEST(Program, CannotRunADevice) {
+  const ProgramRun run = runVesk({"/dev/zero"});
+  EXPECT_EQ(run.err, "vesk: cannot read the script \"/dev/zero\": it is a device\n");
+  EXPECT_EQ(run.status, 2);
+}
+
+TEST(Program, CannotRunAPipeWithoutEnd) {
+  const ProgramRun run = runShell("'" + kVesk + "' <(yes)");
+  EXPECT_THAT(run.err, EndsWith("it is longer than 256 MiB\n"));
+  EXPECT_EQ(run.status, 2);
+}
+
+TEST(Program, RunsAScriptFromAPipeThatIsWrittenLater) {
+  const TemporaryFolder folder;
+  const ProgramRun run = runShell(
+      "mkfifo pipe; '" + kVesk + "' pipe -c 'echo end' & echo 'echo piped' > pipe; wait $!",
+      {.folder = folder.path().string()});
+  EXPECT_EQ(run.out, "piped\nend\n");
+  EXPECT_EQ(run.err, "");
+}
+
+TEST(Program, DoesNotWaitForAPipeThatALineNames) {
+  const TemporaryFolder folder;
+  const ProgramRun run = runShell("mkfifo pipe; timeout 20 '" + kVesk + "' -c 'source pipe'",
+                                  {.folder = folder.path().string()});
+  EXPECT_THAT(run.err, StartsWith("Error: source: cannot read \"pipe\": it is a pipe\n"));
+  EXPECT_EQ(run.status, 1);
+}
+
 TEST(Program, CannotRunAFolder) {
   const TemporaryFolder folder;
   const ProgramRun run = runVesk({folder.path().string()});
@@ -119,6 +158,57 @@ TEST(Program, PrintsItsVersion) {
   const ProgramRun run = runVesk({"--version"});
   EXPECT_EQ(run.out, "vesk 2.1.0\n");
   EXPECT_EQ(run.status, 0);
+}
+
+class ProgramIdleLines : public testing::Test {
+ protected:
+  const std::string module_ = VESK_BUILD_DIR "/test-modules/idleModule.so";
+  const std::string messages_ =
+      "Error: unknown command \"nonsense\"\n"
+      "Error: idle line: \"echo idle\\nnonsense\" failed with status 3\n";
+};
+
+TEST_F(ProgramIdleLines, OfTheStartRunWithoutAnyInput) {
+  const ProgramRun run = runVesk({"--plugin", module_});
+  EXPECT_EQ(run.out, "idle\n");
+  EXPECT_EQ(run.err, messages_ + "start-up: the line failed with status 3\n");
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ProgramIdleLines, OfTheStartEndTheRunWhenTheyFail) {
+  const ProgramRun run = runVesk({"--plugin", module_, "-c", "echo never"});
+  EXPECT_EQ(run.out, "idle\n");
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ProgramIdleLines, OfTheStartComeAheadOfTheLinesGiven) {
+  const ProgramRun run = runVesk({"--keep-going", "--plugin", module_, "-c", "echo on"});
+  EXPECT_EQ(run.out, "idle\non\n");
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ProgramIdleLines, OfTheStartBelongToNoTranscript) {
+  const TemporaryFolder folder;
+  const std::string transcript = folder.write("a.vtr", "> echo on\n: on\n");
+  const ProgramRun run = runVesk({"--plugin", module_, "--check", transcript});
+  EXPECT_EQ(run.out, "idle\n");
+  EXPECT_EQ(run.err, messages_);
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ProgramIdleLines, EndTheRunWhenTheyFail) {
+  const ProgramRun run =
+      runVesk({"--no-plugin", "-c", "loadPlugin \"" + module_ + "\"", "-c", "echo never"});
+  EXPECT_EQ(run.out, "idle\nidleModule\n");
+  EXPECT_EQ(run.err, messages_ + "-c 1: the line failed with status 3\n");
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST(ProgramBatch, IsTrueWhereNobodyCanAnswer) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(runVesk({"-c", "about -batch"}).out, "true\n");
+  EXPECT_EQ(runVesk({folder.write("a.vesk", "about -batch\n")}).out, "true\n");
+  EXPECT_EQ(runVesk({}, {.input = "about -batch\n"}).out, "true\n");
 }
 
 TEST(ProgramQuit, EndsTheRun) {

@@ -44,6 +44,22 @@ TEST_F(Completions, OfALaterWordAreFlagsOfTheCommand) {
   EXPECT_THAT(of("createNode group -n"), ElementsAre("-name"));
 }
 
+TEST_F(Completions, AreAlsoTheModesThatACommandHas) {
+  KSyntax syntax;
+  syntax.enableQuery(true);
+  syntax.enableEdit(true);
+  CommandEntry entry;
+  entry.name = "modes";
+  entry.creator = []() -> KPxCommand* { return nullptr; };
+  entry.syntax = syntax;
+  ASSERT_EQ(session_.registry().add(entry), CommandRegistry::Outcome::Registered);
+  EXPECT_THAT(of("modes -"), ElementsAre("-query", "-edit"));
+  EXPECT_THAT(of("modes -e"), ElementsAre("-edit"));
+  EXPECT_THAT(of("undoInfo -q"), ElementsAre("-query"));
+  EXPECT_THAT(of("undoInfo -e"), IsEmpty());
+  EXPECT_THAT(of("createNode group -q"), IsEmpty());
+}
+
 TEST_F(Completions, OfAWordThatIsNoFlagAreNone) {
   EXPECT_THAT(of("createNode gr"), IsEmpty());
   EXPECT_THAT(of("createNode "), IsEmpty());
@@ -65,12 +81,12 @@ TEST_F(Completions, PassOverBlanksAheadOfTheCommand) {
 /// The program at a terminal.
 class Terminal {
  public:
-  explicit Terminal(const std::string& preferences) {
+  explicit Terminal(const std::string& preferences, const char* option = nullptr) {
     child_ = forkpty(&terminal_, nullptr, nullptr, nullptr);
     if (child_ != 0) return;
     setenv("TERM", "xterm", 1);
     setenv("LC_ALL", "C.UTF-8", 1);
-    execl(kVesk.c_str(), "vesk", "--prefs", preferences.c_str(), nullptr);
+    execl(kVesk.c_str(), "vesk", "--prefs", preferences.c_str(), option, nullptr);
     _exit(127);
   }
   Terminal(const Terminal&) = delete;
@@ -93,14 +109,15 @@ class Terminal {
     EXPECT_THAT(seen, HasSubstr(text));
   }
 
-  /// Waits until the program takes keys one by one; it prompts a moment before.
+  /// Waits until the program takes keys one by one. It prompts a moment before, and an end of input
+  /// that is typed between the two would reach it as a key of another meaning.
   void awaitPrompt() {
     readUntil("vesk> ");
-    termios mode{};
-    for (int i = 0; i < 500 && (i == 0 || (mode.c_lflag & ICANON) != 0); ++i) {
+    for (int i = 0; i < 1000; ++i) {
+      if (takesKeys()) return;
       usleep(10000);
-      tcgetattr(terminal_, &mode);
     }
+    ADD_FAILURE() << "the program prompts, and takes no keys";
   }
 
   /// Reads until the program ends; -1 when it does not.
@@ -123,6 +140,11 @@ class Terminal {
     const ssize_t count = read(terminal_, bytes, sizeof bytes);
     if (count > 0) seen.append(bytes, static_cast<std::size_t>(count));
     return count > 0;
+  }
+
+  bool takesKeys() const {
+    termios mode{};
+    return tcgetattr(terminal_, &mode) == 0 && (mode.c_lflag & ICANON) == 0;
   }
 
   bool hasEnded() {
@@ -183,6 +205,18 @@ TEST_F(Prompt, EndsWithTheInput) {
   terminal_.awaitPrompt();
   terminal_.type("\x04");
   EXPECT_EQ(terminal_.exitStatus(), 0);
+}
+
+TEST_F(Prompt, IsNoBatch) {
+  terminal_.awaitPrompt();
+  terminal_.type("about -batch\r");
+  terminal_.readUntil("\nfalse\r\n");
+}
+
+TEST_F(Prompt, IsNotShownInBatch) {
+  Terminal batch(folder_.path().string(), "--batch");
+  batch.type("about -batch\n");
+  batch.readUntil("\ntrue\r\n");
 }
 
 TEST_F(Prompt, EndsWithQuit) {

@@ -135,6 +135,39 @@ TEST_F(JournalOfTheProgram, MustBeWritable) {
   EXPECT_EQ(run.status, 2);
 }
 
+/// The program must not start, and leave the file as it is.
+void expectNoJournalOver(const std::string& script, const ProgramRun& run,
+                         const std::string& what) {
+  EXPECT_EQ(run.err, "vesk: the journal would overwrite " + what + "\n");
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.status, 2);
+  EXPECT_EQ(readWholeFile(script), "// a script\n");
+}
+
+TEST_F(JournalOfTheProgram, NeverOverwritesAScriptThatIsRun) {
+  const std::string script = folder_.write("a.vesk", "// a script\n");
+  const std::string what = "the script \"" + script + "\"";
+  fs::create_symlink(script, path("symbolic"));
+  fs::create_hard_link(script, path("hard"));
+  for (const std::string& journal : {script, path("symbolic"), path("hard"), path("./a.vesk")}) {
+    expectNoJournalOver(script, runVesk({"-c", "echo never", "--journal", journal, script}), what);
+  }
+  expectNoJournalOver(script, runVesk({"--check", "--journal", script, script}), what);
+}
+
+TEST_F(JournalOfTheProgram, NeverOverwritesTheFileThatIsStandardInput) {
+  const std::string script = folder_.write("a.vesk", "// a script\n");
+  const std::string quoted = " '" + script + "'";
+  expectNoJournalOver(script, runShell("'" + kVesk + "' --journal" + quoted + " <" + quoted),
+                      "standard input");
+}
+
+TEST_F(JournalOfTheProgram, MayGoToADeviceThatIsAlsoRead) {
+  const ProgramRun run = runShell("'" + kVesk + "' --journal /dev/null < /dev/null");
+  EXPECT_EQ(run.err, "");
+  EXPECT_EQ(run.status, 0);
+}
+
 class SceneOfTheProgram : public Preferences {};
 
 TEST_F(SceneOfTheProgram, IsSavedAndOpenedAgain) {

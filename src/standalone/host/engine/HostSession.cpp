@@ -3,6 +3,7 @@
 #include "standalone/host/commands/BuiltinCommand.h"
 #include "standalone/host/engine/OptionVariables.h"
 #include "standalone/host/engine/StringCatalogues.h"
+#include "standalone/host/language/Tokenizer.h"
 #include "standalone/host/scene/Scene.h"
 
 namespace vesk {
@@ -51,18 +52,24 @@ HostSession* HostSession::current() { return currentSession; }
 
 KStatus HostSession::runLine(std::string_view text, ResultValue& result) {
   const KStatus status = engine_.run(text, result);
-  runIdleLines();
+  const KStatus idleStatus = runIdleLines();
   optionVariables_->saveIfChanged();
-  return status;
+  return status ? idleStatus : status;
 }
 
-void HostSession::runIdleLines() {
-  if (engine_.isRunning()) return;
+KStatus HostSession::runIdleLines() {
+  KStatus first;
+  if (engine_.isRunning()) return first;
   while (!idleQueue_.isEmpty() && !quitRequested) {
     const IdleQueue::Line line = idleQueue_.take();
     ResultValue result;
-    engine_.run(line.text, result, {.display = line.display});
+    const KStatus status = engine_.run(line.text, result, {.display = line.display});
+    if (status) continue;
+    messages_.error("idle line: " + quotedBriefly(line.text) + " failed with status " +
+                    std::to_string(status.statusCode()));
+    if (first) first = status;
   }
+  return first;
 }
 
 void HostSession::exit() {

@@ -38,11 +38,13 @@ class HostSession {
   /// Null when there is none.
   static HostSession* current();
 
-  /// Runs one line as a user types it, then what it left on the idle queue.
+  /// Runs one line as a user types it, then what it left on the idle queue. The status is that of
+  /// the line, or else of the first idle line that failed; the result is that of the line.
   KStatus runLine(std::string_view text, ResultValue& result);
 
-  /// Runs the lines on the idle queue, also those that they add.
-  void runIdleLines();
+  /// Runs the lines on the idle queue, also those that they add. The user is told each that fails;
+  /// the status is that of the first.
+  KStatus runIdleLines();
 
   /// Ends the session: tells the scene's listeners, unloads the plug-ins, saves the option
   /// variables. Does so once.

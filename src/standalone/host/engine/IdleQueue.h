@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <string>
+#include <utility>
 
 namespace vesk {
 

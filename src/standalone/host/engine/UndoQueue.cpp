@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "standalone/host/engine/CommandRegistry.h"
 #include "standalone/host/engine/HostAccess.h"

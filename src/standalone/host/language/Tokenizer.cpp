@@ -1,5 +1,6 @@
 #include "standalone/host/language/Tokenizer.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "standalone/host/language/Utf8.h"

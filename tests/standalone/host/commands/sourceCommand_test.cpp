@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "platform/OpenVesk/KGlobal.h"
 #include "standalone/host/language/Tokenizer.h"
@@ -58,6 +59,15 @@ TEST_F(SourceCommand, PassesOverAByteOrderMark) {
       script("\xEF\xBB\xBF"
              "edit a\n"));
   EXPECT_THAT(host.steps(), ElementsAre("edit a"));
+}
+
+TEST_F(SourceCommand, TakesNoDevicesAndNoPipes) {
+  const std::string pipe = files.path("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_THAT(host.refusal("source \"/dev/zero\""),
+              ElementsAre("! source: cannot read \"/dev/zero\": it is a device"));
+  EXPECT_THAT(host.refusal("source " + vesk::quoted(pipe)),
+              ElementsAre("! source: cannot read " + vesk::quoted(pipe) + ": it is a pipe"));
 }
 
 TEST_F(SourceCommand, BlankLinesAndCommentsKeepTheResult) {

@@ -41,12 +41,24 @@ TEST(IdleLines, RunBehindThoseThatWaitWhenAnIdleLineAddsThem) {
   EXPECT_THAT(host.steps(), ElementsAre("edit b", "edit c"));
 }
 
-TEST(IdleLines, AFailureStopsNoOther) {
+TEST(IdleLines, AFailureIsToldAndStopsNoOther) {
   ProbeHost host;
   addProbe(host, "later", postponer());
-  host.run("later unknown \"edit a\"");
-  EXPECT_THAT(host.takeMessages(), ElementsAre("! unknown command \"unknown\""));
+  EXPECT_THAT(host.refusal("later unknown \"edit a\""),
+              ElementsAre("! unknown command \"unknown\"",
+                          "! idle line: \"unknown\" failed with status 3"));
   EXPECT_THAT(host.steps(), ElementsAre("edit a"));
+}
+
+TEST(IdleLines, TheFirstFailureIsThatOfTheLineThatAddedThem) {
+  ProbeHost host;
+  addProbe(host, "later", postponer());
+  addProbe(host, "refuse",
+           {.doIt = [](KPxCommand&, const KArgList&) { return KStatus(StatusFailure); }});
+  EXPECT_EQ(host.status("later refuse unknown"), StatusFailure);
+  EXPECT_EQ(host.status("later unknown refuse"), StatusBadArgument);
+  EXPECT_EQ(host.status("later refuse; unknown"), StatusBadArgument);
+  EXPECT_EQ(host.takeMessages().size(), 8u);
 }
 
 TEST(IdleLines, DoNotRunInsideACommand) {

@@ -1,5 +1,7 @@
 #include "platform/OpenVesk/KPxCommand.h"
 
+#include <algorithm>
+#include <iterator>
 #include <variant>
 
 #include "standalone/host/engine/HostAccess.h"

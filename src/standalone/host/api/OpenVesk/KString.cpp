@@ -1,5 +1,6 @@
 #include "platform/OpenVesk/KString.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
