@@ -2,11 +2,11 @@
 
 #include <unistd.h>
 
-#include <QSaveFile>
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
 
+#include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/engine/HostVersion.h"
 #include "standalone/host/engine/ScriptReader.h"
 #include "standalone/vesk/LineSource.h"
@@ -87,14 +87,6 @@ int runAll(const ProgramOptions& options, LineListener& listener, Console& conso
   return runner.exitStatus();
 }
 
-bool writeAtomically(const std::string& path, const std::string& text) {
-  QSaveFile file(QString::fromStdString(path));
-  return file.open(QIODevice::WriteOnly) &&
-         file.write(text.data(), static_cast<qint64>(text.size())) ==
-             static_cast<qint64>(text.size()) &&
-         file.commit();
-}
-
 /// Runs one transcript in a platform of its own.
 int checkTranscript(const ProgramOptions& options, const std::string& path) {
   std::string reason;
@@ -114,8 +106,8 @@ int checkTranscript(const ProgramOptions& options, const std::string& path) {
   if (difference.empty()) return statusWhenTrue;
   std::cout << path << (options.update ? ": updated\n" : ": differs\n") << difference;
   if (!options.update) return kLineFailed;
-  return writeAtomically(path, after) ? statusWhenTrue
-                                      : cannotStart("cannot write \"" + path + "\"");
+  reason = writeAtomically(path, after);
+  return reason.empty() ? statusWhenTrue : cannotStart("cannot write \"" + path + "\": " + reason);
 }
 
 int checkTranscripts(const ProgramOptions& options) {

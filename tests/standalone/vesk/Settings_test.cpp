@@ -70,13 +70,21 @@ TEST_F(Preferences, ThatAreDamagedAreKeptAside) {
   EXPECT_EQ(runVesk({"--prefs", path("prefs"), "-c", "optionVar -list"}).out, "new\n");
 }
 
-TEST_F(Preferences, ThatCannotBeKeptAreAWarningAndNoFailure) {
+TEST_F(Preferences, ThatCannotBeKeptFailTheLine) {
   const std::string file = folder_.write("file", "text");
+  const ProgramRun run = runVesk({"--prefs", file, "-c", "optionVar -intValue new 1"});
+  EXPECT_THAT(run.err, HasSubstr("Error: option variables cannot be saved in \"" + file +
+                                 "/optionVars.json\": the folder cannot be made\n"));
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(Preferences, AreSharedByProgramsThatRunAtOnce) {
+  const std::string line =
+      "'" + kVesk + "' --prefs '" + path("prefs") + "' -c 'optionVar -intValue ";
   const ProgramRun run =
-      runVesk({"--prefs", file, "-c", "optionVar -intValue new 1", "-c", "optionVar -query new"});
-  EXPECT_THAT(run.err, HasSubstr("Warning: "));
-  EXPECT_EQ(run.out, "1\n");
-  EXPECT_EQ(run.status, 0);
+      runShell("for i in 1 2 3 4; do " + line + "'$i' 1' & done; wait; " + line + "last 1'");
+  EXPECT_EQ(run.err, "");
+  EXPECT_EQ(runVesk({"--prefs", path("prefs"), "-c", "optionVar -list"}).out, "1\n2\n3\n4\nlast\n");
 }
 
 class JournalOfTheProgram : public Preferences {

@@ -165,6 +165,13 @@ TEST_F(TranscriptFile, IsNotTouchedByAnUpdateWhenItIsTrue) {
   EXPECT_EQ(std::filesystem::last_write_time(folder_.path() / "a.vtr"), longAgo);
 }
 
+TEST_F(TranscriptFile, ThatCannotBeRewrittenIsToldWithTheReason) {
+  const ProgramRun run = runShell("'" + kVesk + "' --check --update <(echo '> about -version')");
+  EXPECT_THAT(run.err, HasSubstr("vesk: cannot write \"/dev/fd/"));
+  EXPECT_THAT(run.err, HasSubstr("\": it is no regular file\n"));
+  EXPECT_EQ(run.status, 2);
+}
+
 TEST_F(TranscriptFile, OfLinesOfNoKindIsNotRun) {
   const ProgramRun run = check("> about -version\nnonsense\n");
   EXPECT_EQ(run.err, "vesk: " + path_ + ": line 2 is no line of a transcript\n");

@@ -25,6 +25,7 @@ class OptionVarCommand : public BuiltinCommand {
   KStatus run(const KArgDatabase& arguments) override {
     const auto isSet = [&](const FlagRow& row) { return arguments.isFlagSet(row.shortName); };
     if (std::ranges::count_if(kFlags, isSet) != 1) return fail("one of its flags is needed");
+    if (!variables().read()) return StatusFailure;
     const FlagRow& action = *std::ranges::find_if(kFlags, isSet);
     return carryOut(action.shortName, arguments);
   }
@@ -38,7 +39,7 @@ class OptionVarCommand : public BuiltinCommand {
     } else if (action == "-q") {
       return query(name);
     } else if (action == "-rm") {
-      return variables().remove(name) ? KStatus() : refuseUnknown(name);
+      return variables().find(name) ? kept(variables().remove(name)) : refuseUnknown(name);
     } else {
       return set(name, action, arguments);
     }
@@ -55,15 +56,12 @@ class OptionVarCommand : public BuiltinCommand {
   static KStatus set(const std::string& name, std::string_view action,
                      const KArgDatabase& arguments) {
     if (name.empty()) return fail("the name is empty");
-    if (action == "-iv") {
-      variables().set(name, flagInt(arguments, "-iv", 1));
-    } else if (action == "-fv") {
-      variables().set(name, flagDouble(arguments, "-fv", 1));
-    } else {
-      variables().set(name, flagText(arguments, "-sv", 1));
-    }
-    return StatusSuccess;
+    if (action == "-iv") return kept(variables().set(name, flagInt(arguments, "-iv", 1)));
+    if (action == "-fv") return kept(variables().set(name, flagDouble(arguments, "-fv", 1)));
+    return kept(variables().set(name, flagText(arguments, "-sv", 1)));
   }
+
+  static KStatus kept(bool done) { return done ? StatusSuccess : StatusFailure; }
 
   static KStatus refuseUnknown(const std::string& name) {
     return fail("no option variable is named " + quoted(name));

@@ -144,6 +144,7 @@ class RenameCommand : public SceneEditCommand {
   KStatus run(const KArgDatabase& arguments) override {
     const std::vector<std::string> names = positionalTexts(arguments);
     if (names.size() != 2) return fail("the name of a node and its new name are needed");
+    if (names[1].empty()) return fail("the new name is empty");
     node_ = scene().find(names[0]);
     if (!node_) return fail("no node is named " + quoted(names[0]));
     before_ = node_->name();

@@ -53,7 +53,11 @@ HostSession* HostSession::current() { return currentSession; }
 KStatus HostSession::runLine(std::string_view text, ResultValue& result) {
   const KStatus status = engine_.run(text, result);
   const KStatus idleStatus = runIdleLines();
-  optionVariables_->saveIfChanged();
+  if (options_.batch && !quitRequested) {
+    optionVariables_->saveSometimes();
+  } else {  // nothing may follow for long
+    optionVariables_->saveIfChanged();
+  }
   return status ? idleStatus : status;
 }
 

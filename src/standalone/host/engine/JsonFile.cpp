@@ -1,10 +1,12 @@
 #include "standalone/host/engine/JsonFile.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
+#include <filesystem>
+
+#include "standalone/host/engine/AtomicFile.h"
 
 namespace vesk {
+namespace fs = std::filesystem;
 namespace {
 
 std::string placeIn(const QByteArray& bytes, qsizetype offset) {
@@ -17,14 +19,14 @@ std::string placeIn(const QByteArray& bytes, qsizetype offset) {
 }  // namespace
 
 JsonFile readJsonFile(const std::string& path) {
-  QFile file(QString::fromStdString(path));
-  const QFileInfo info(file);
-  if (!info.exists() && !info.isSymLink()) return {JsonFile::State::Missing, {}, {}};
-  const bool opened = file.open(QIODevice::ReadOnly);
-  const QByteArray bytes = opened ? file.readAll() : QByteArray();
-  if (!opened || file.error() != QFileDevice::NoError) {
-    return {JsonFile::State::Unreadable, {}, file.errorString().toStdString()};
+  std::error_code unknown;  // in a folder out of reach, reading tells
+  if (fs::symlink_status(path, unknown).type() == fs::file_type::not_found) {
+    return {JsonFile::State::Missing, {}, {}};
   }
+  std::string reason;
+  const auto text = readWholeFile(path, reason);
+  if (!text) return {JsonFile::State::Unreadable, {}, reason};
+  const QByteArray bytes = QByteArray::fromStdString(*text);
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
   if (error.error != QJsonParseError::NoError) {

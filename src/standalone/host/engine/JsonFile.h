@@ -9,7 +9,7 @@ namespace vesk {
 struct JsonFile {
   enum class State {
     Missing,
-    Unreadable,  ///< it is there, but its bytes cannot be had
+    Unreadable,  ///< it is there, but its bytes cannot be had, or it is no regular file
     Damaged,     ///< its bytes are no JSON object
     Read,
   };

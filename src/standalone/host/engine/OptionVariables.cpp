@@ -4,11 +4,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
+#include <QLockFile>
 #include <charconv>
 #include <limits>
 #include <optional>
 
+#include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/engine/JsonFile.h"
 #include "standalone/host/engine/Messages.h"
 #include "standalone/host/engine/ResultValue.h"
@@ -18,6 +19,7 @@ namespace vesk {
 namespace {
 
 constexpr int kFormatVersion = 1;
+constexpr int kMillisecondsForALock = 5000;
 
 using Value = OptionVariables::Value;
 using Values = std::map<std::string, Value, std::less<>>;
@@ -59,6 +61,14 @@ std::optional<Value> readValue(const QJsonValue& json) {
   return {};
 }
 
+QJsonObject toObject(const Values& values) {
+  QJsonObject variables;
+  for (const auto& [name, value] : values) {
+    variables[QString::fromStdString(name)] = std::visit(ToJson{}, value);
+  }
+  return variables;
+}
+
 /// Reads all values, or gives the reason why not.
 std::string readValues(const QJsonObject& root, Values& values) {
   if (!root["variables"].isObject()) return "\"variables\" is missing or no object";
@@ -74,34 +84,35 @@ std::string readValues(const QJsonObject& root, Values& values) {
 
 }  // namespace
 
-OptionVariables::OptionVariables(std::string folder, MessageChannel& messages)
-    : folder_(std::move(folder)), messages_(messages) {}
+OptionVariables::OptionVariables(std::string folder, MessageChannel& messages,
+                                 std::chrono::milliseconds interval)
+    : folder_(std::move(folder)), messages_(messages), interval_(interval) {}
 
 OptionVariables::~OptionVariables() { saveIfChanged(); }
 
 std::string OptionVariables::path() const { return folder_ + "/optionVars.json"; }
 
+bool OptionVariables::read() {
+  if (file_ == File::Read) return true;
+  std::optional<Values> stored;
+  const std::string reason = folder_.empty() ? "" : load(stored);
+  file_ = reason.empty() ? File::Read : File::Unreadable;
+  if (stored) values_ = std::move(*stored);
+  if (!reason.empty()) {
+    messages_.error("the option variables in " + vesk::quoted(path()) +
+                    " cannot be read: " + reason);
+  }
+  return reason.empty();
+}
+
+void OptionVariables::readOnce() {
+  if (file_ == File::Unread) read();
+}
+
 const Value* OptionVariables::find(std::string_view name) {
   readOnce();
   const auto found = values_.find(name);
   return found == values_.end() ? nullptr : &found->second;
-}
-
-void OptionVariables::set(const std::string& name, Value value) {
-  readOnce();
-  const auto [entry, added] = values_.try_emplace(name, value);
-  if (!added && entry->second == value) return;
-  entry->second = std::move(value);
-  changed_ = true;
-}
-
-bool OptionVariables::remove(std::string_view name) {
-  readOnce();
-  const auto found = values_.find(name);
-  if (found == values_.end()) return false;
-  values_.erase(found);
-  changed_ = true;
-  return true;
 }
 
 std::vector<std::string> OptionVariables::names() {
@@ -111,76 +122,122 @@ std::vector<std::string> OptionVariables::names() {
   return names;
 }
 
-void OptionVariables::readOnce() {
-  if (file_ != File::Unread) return;
-  file_ = File::Usable;
-  if (folder_.empty()) return;
+bool OptionVariables::set(const std::string& name, Value value) {
+  return change(name, std::move(value));
+}
+
+bool OptionVariables::remove(std::string_view name) {
+  return find(name) && change(std::string(name), std::nullopt);
+}
+
+/// No value: removes the one that is there.
+bool OptionVariables::change(const std::string& name, std::optional<Value> value) {
+  if (!read()) return false;
+  const Value* found = find(name);
+  std::optional<Value> before = found ? std::optional(*found) : std::nullopt;
+  put(name, std::move(value));
+  const bool first = changed_.insert(name).second;
+  if (!saveFailed_ && Clock::now() < nextSave_) return true;
+
+  const std::string reason = save();
+  if (reason.empty()) return true;
+  put(name, std::move(before));
+  if (first) changed_.erase(name);
+  tellUnsaved(reason);
+  return false;
+}
+
+void OptionVariables::put(const std::string& name, std::optional<Value> value) {
+  if (value) {
+    values_.insert_or_assign(name, std::move(*value));
+  } else {
+    values_.erase(name);
+  }
+}
+
+void OptionVariables::saveIfChanged() {
+  const bool told = saveFailed_;
+  const std::string reason = save();
+  if (!reason.empty() && !told) tellUnsaved(reason);
+}
+
+void OptionVariables::saveSometimes() {
+  if (Clock::now() >= nextSave_) saveIfChanged();
+}
+
+void OptionVariables::tellUnsaved(const std::string& reason) {
+  messages_.error("option variables cannot be saved in " + vesk::quoted(path()) + ": " + reason);
+}
+
+/// Gives the reason when it fails.
+std::string OptionVariables::save() {
+  if (changed_.empty() || folder_.empty()) return {};
+  std::string reason = write();
+  saveFailed_ = !reason.empty();
+  if (!saveFailed_) changed_.clear();
+  nextSave_ = Clock::now() + interval_;
+  return reason;
+}
+
+std::string OptionVariables::write() {
+  if (!QDir().mkpath(QString::fromStdString(folder_))) return "the folder cannot be made";
+  // Between reading and writing no other program may write. Where no lock can be made, no file can
+  // be written either, and writing knows the reason.
+  QLockFile lock(QString::fromStdString(path() + ".lock"));
+  if (!lock.tryLock(kMillisecondsForALock) && lock.error() == QLockFile::LockFailedError) {
+    return "another program is writing it";
+  }
+  std::optional<Values> stored;
+  if (std::string reason = load(stored); !reason.empty()) return reason;
+  if (stored) {
+    const QJsonObject before = toObject(*stored);
+    takeOver(std::move(*stored));
+    if (toObject(values_) == before) return {};
+  }
+  const QJsonObject root{{"version", kFormatVersion}, {"variables", toObject(values_)}};
+  return writeAtomically(path(), QJsonDocument(root).toJson().toStdString());
+}
+
+/// Takes the values that other programs stored, under those that changed here.
+void OptionVariables::takeOver(Values stored) {
+  std::swap(values_, stored);
+  for (const std::string& name : changed_) {
+    const auto here = stored.find(name);
+    put(name, here == stored.end() ? std::nullopt : std::optional(std::move(here->second)));
+  }
+}
+
+/// Reads what the file holds; nothing when there is no file or a damaged one, which is moved aside.
+/// Gives the reason when the file cannot be read and must stay as it is.
+std::string OptionVariables::load(std::optional<Values>& values) {
   const JsonFile file = readJsonFile(path());
-  if (file.state == JsonFile::State::Missing) return;
-  if (file.state == JsonFile::State::Unreadable) return leaveAlone(file.reason);
+  if (file.state == JsonFile::State::Missing) return {};
+  if (file.state == JsonFile::State::Unreadable) return file.reason;
   if (file.state == JsonFile::State::Damaged) return moveAside(file.reason);
 
   const QJsonValue version = file.object["version"];
   if (!version.isDouble()) return moveAside("\"version\" is missing or no number");
   if (version.toDouble() != kFormatVersion) {
-    return leaveAlone("its format version is not " + std::to_string(kFormatVersion));
+    return "its format version is not " + std::to_string(kFormatVersion);
   }
-  Values values;
-  if (const std::string reason = readValues(file.object, values); !reason.empty()) {
-    return moveAside(reason);
+  Values read;
+  if (const std::string damage = readValues(file.object, read); !damage.empty()) {
+    return moveAside(damage);
   }
-  values_ = std::move(values);
+  values = std::move(read);
+  return {};
 }
 
-void OptionVariables::leaveAlone(std::string_view reason) {
-  file_ = File::Untouchable;
-  messages_.warning("the option variables in " + vesk::quoted(path()) +
-                    " cannot be read: " + std::string(reason));
-}
-
-void OptionVariables::moveAside(std::string_view reason) {
+std::string OptionVariables::moveAside(std::string_view damage) {
   const QString damaged = QString::fromStdString(path() + ".damaged");
   QString target = damaged;
   for (int i = 1; QFileInfo::exists(target); ++i) target = damaged + QString::number(i);
   if (!QFile::rename(QString::fromStdString(path()), target)) {
-    return leaveAlone(std::string(reason) + "; it cannot be moved aside");
+    return std::string(damage) + "; it cannot be moved aside";
   }
   messages_.warning("the option variables in " + vesk::quoted(path()) +
-                    " are damaged: " + std::string(reason) + "; the file is now " +
+                    " are damaged: " + std::string(damage) + "; the file is now " +
                     vesk::quoted(target.toStdString()));
-}
-
-void OptionVariables::saveIfChanged() {
-  if (!changed_ || folder_.empty()) return;
-  if (file_ == File::Untouchable) {
-    return warnOnce(vesk::quoted(path()) + " is left as it was");
-  }
-  const std::string problem = write();
-  if (!problem.empty()) return warnOnce(vesk::quoted(path()) + ": " + problem);
-  changed_ = false;
-  warned_ = false;
-}
-
-void OptionVariables::warnOnce(const std::string& text) {
-  if (warned_) return;
-  warned_ = true;
-  messages_.warning("changes of option variables are not saved: " + text);
-}
-
-/// Gives the reason when it fails.
-std::string OptionVariables::write() const {
-  QJsonObject variables;
-  for (const auto& [name, value] : values_) {
-    variables[QString::fromStdString(name)] = std::visit(ToJson{}, value);
-  }
-  const QJsonObject root{{"version", kFormatVersion}, {"variables", variables}};
-  const QByteArray bytes = QJsonDocument(root).toJson();
-
-  if (!QDir().mkpath(QString::fromStdString(folder_))) return "the folder cannot be made";
-  QSaveFile file(QString::fromStdString(path()));
-  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-    return file.errorString().toStdString();
-  }
   return {};
 }
 

@@ -53,15 +53,23 @@ std::vector<SceneNodePtr> findNodes(const Scene& scene, const NamePatterns& patt
   return nodes;
 }
 
-std::vector<SceneNodePtr> findNodesInOrder(const Scene& scene, const NamePatterns& patterns) {
+std::vector<SceneNodePtr> findNodesInOrder(const Scene& scene, const NamePatterns& names) {
   std::vector<SceneNodePtr> nodes;
-  if (patterns.size() == 1 && isPlainName(patterns.front())) {
-    if (SceneNodePtr node = scene.find(patterns.front())) nodes.push_back(std::move(node));
-    return nodes;
+  NamePatterns patterns;
+  for (const std::string& name : names) {
+    if (!isPlainName(name)) {
+      patterns.push_back(name);
+    } else if (SceneNodePtr node = scene.find(name)) {
+      nodes.push_back(std::move(node));
+    }
   }
-  for (const auto& [place, node] : scene.nodes()) {
-    if (fitsAny(node->name(), patterns)) nodes.push_back(node);
+  if (!patterns.empty()) {
+    for (const auto& [place, node] : scene.nodes()) {
+      if (fitsAny(node->name(), patterns)) nodes.push_back(node);
+    }
   }
+  std::ranges::sort(nodes, {}, [](const SceneNodePtr& node) { return node->place(); });
+  nodes.erase(std::unique(nodes.begin(), nodes.end()), nodes.end());
   return nodes;
 }
 

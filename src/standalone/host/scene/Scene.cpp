@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/engine/Messages.h"
 #include "standalone/host/engine/SceneEvents.h"
 #include "standalone/host/language/Tokenizer.h"
@@ -152,7 +153,7 @@ KStatus Scene::save(const std::string& path) {
   const std::string file = absolutePath(path);
   const Busy busy(*this);
   events_.send(SceneEvent::BeforeSave);
-  const std::string problem = writeSceneFile(file, writeSceneText(*this));
+  const std::string problem = writeAtomically(file, writeSceneText(*this));
   if (!problem.empty()) return refuse("save", file, problem);
   path_ = file;
   modified_ = false;

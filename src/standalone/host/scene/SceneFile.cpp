@@ -1,13 +1,11 @@
 #include "standalone/host/scene/SceneFile.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 #include <charconv>
 #include <map>
 #include <optional>
 #include <unordered_set>
 
+#include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/language/Tokenizer.h"
 #include "standalone/host/scene/Scene.h"
 
@@ -214,28 +212,9 @@ SceneText readSceneText(std::string_view text, const NodeTypes& types) {
 }
 
 SceneText readSceneFile(const std::string& path, const NodeTypes& types) {
-  QFile file(QString::fromStdString(path));
-  const bool opened = file.open(QIODevice::ReadOnly);
-  const QByteArray bytes = opened ? file.readAll() : QByteArray();
-  if (!opened || file.error() != QFileDevice::NoError) {
-    SceneText unread;
-    unread.error = file.errorString().toStdString();
-    return unread;
-  }
-  return readSceneText({bytes.constData(), static_cast<std::size_t>(bytes.size())}, types);
-}
-
-std::string writeSceneFile(const std::string& path, std::string_view text) {
-  QSaveFile file(QString::fromStdString(path));
-  const QFileInfo old(file.fileName());
-  // A rename would put a file in the place of a device or a pipe.
-  if (old.exists() && !old.isFile()) return "it is no regular file";
-  if (!file.open(QIODevice::WriteOnly)) return file.errorString().toStdString();
-  const auto size = static_cast<qint64>(text.size());
-  if (file.write(text.data(), size) != size || !file.commit()) {
-    return file.errorString().toStdString();
-  }
-  return {};
+  SceneText unread;
+  const auto text = readWholeFile(path, unread.error);
+  return text ? readSceneText(*text, types) : std::move(unread);
 }
 
 }  // namespace vesk

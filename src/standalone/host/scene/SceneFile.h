@@ -27,8 +27,4 @@ SceneText readSceneText(std::string_view text, const NodeTypes& types);
 /// Reads a file; `error` also says why a file cannot be read.
 SceneText readSceneFile(const std::string& path, const NodeTypes& types);
 
-/// Puts the text in the place of the file at once, or leaves the old file as it was and says why.
-/// Empty when it worked.
-std::string writeSceneFile(const std::string& path, std::string_view text);
-
 }  // namespace vesk

@@ -27,6 +27,9 @@ class SceneNode final : public HostObject {
   /// Null for a type without data.
   NodePayload* payload() const { return payload_.get(); }
 
+  /// Its rank in creation order; 0 before it first enters the scene.
+  std::uint64_t place() const { return place_; }
+
   bool isInScene() const { return scene_ != nullptr; }
 
   /// For the payload to tell that its data changed: the scene then has something to save.
@@ -46,7 +49,7 @@ class SceneNode final : public HostObject {
   std::string uuid_;
   std::unique_ptr<NodePayload> payload_;
   Scene* scene_ = nullptr;
-  std::uint64_t place_ = 0;  ///< its rank in creation order; 0 before it first enters the scene
+  std::uint64_t place_ = 0;
 };
 
 using SceneNodePtr = std::shared_ptr<SceneNode>;

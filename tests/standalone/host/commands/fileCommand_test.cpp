@@ -105,6 +105,13 @@ TEST_F(FileCommandLines, ARefusedOpenKeepsSceneAndUndoSteps) {
   EXPECT_EQ(host_.run("ls"), "[]");
 }
 
+TEST_F(FileCommandLines, ADeviceIsNotOpened) {
+  host_.run("createNode group -name g");
+  EXPECT_THAT(host_.refusal("file -force -open /dev/null"),
+              ElementsAre("! cannot open \"/dev/null\": it is no regular file"));
+  EXPECT_EQ(host_.run("ls"), "[\"g\"]");
+}
+
 TEST_F(FileCommandLines, SaveKeepsTheUndoSteps) {
   host_.run("createNode group");
   host_.run(line("-saveAs", "s"));

@@ -122,7 +122,8 @@ TEST_F(SceneCommandLines, RenameGivesTheNameItGot) {
   EXPECT_EQ(host_.value("rename a c"), ResultValue("c"));
   EXPECT_EQ(host_.value("rename c b"), ResultValue("b1"));
   EXPECT_EQ(host_.value("rename b1 \"3 x\""), ResultValue("_3_x"));
-  EXPECT_EQ(host_.value("rename _3_x \"\""), ResultValue("group"));
+  expectRefused("rename _3_x \"\"", "rename: the new name is empty");
+  EXPECT_EQ(host_.value("rename _3_x group"), ResultValue("group"));
   EXPECT_EQ(names(), "[\"group\",\"b\"]");
 }
 
