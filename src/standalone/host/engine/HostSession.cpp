@@ -45,6 +45,8 @@ HostSession::~HostSession() {
   exit();
   plugins_.unloadAll();  // what could not be unloaded at the exit
   undoQueue_.clear();
+  messages_ =
+      MessageChannel();  // what hears them, the journal too, may go ahead of what sends them
   currentSession = previous_;
 }
 
