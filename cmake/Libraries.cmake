@@ -3,6 +3,7 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Widgets)
 find_package(GTest 1.12 REQUIRED)
 find_package(benchmark 1.7 REQUIRED)
+find_package(absl REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(Libedit REQUIRED IMPORTED_TARGET libedit)
 pkg_check_modules(YamlCpp REQUIRED IMPORTED_TARGET yaml-cpp)

@@ -2,6 +2,8 @@
 
 #include <new>
 
+#include "plugin/FlagRow.h"
+#include "plugin/fromUTF8.h"
 #include "plugin/pluginMessages.h"
 
 using ORV_v1::AddRefWrapper;
@@ -12,13 +14,6 @@ using ORV_v1::Runtime;
 namespace {
 
 /// The flags are declared and read back without a leading "-".
-struct FlagRow {
-  const char* shortName;
-  const char* longName;
-  KSyntax::KArgType argument1 = KSyntax::ArgNone;
-  KSyntax::KArgType argument2 = KSyntax::ArgNone;
-};
-
 constexpr FlagRow kFlags[] = {
     {"rt", "runTimes"},
     {"lib", "libraries", KSyntax::ArgString},
@@ -40,12 +35,6 @@ constexpr RuntimeFlagRow kRuntimeFlags[] = {
     {"lpt", orvActionCmd::kActionListPortTypes},
 };
 
-KString fromUTF8(const char* utf8) {
-  KString text;
-  text.setUTF8(utf8);
-  return text;
-}
-
 KStatus refuseArgument(const char* flag, const char* type) {
   displayError(rMetaCommandBadArguments, flag, type);
   return StatusFailure;
@@ -59,9 +48,7 @@ KSyntax orvActionCmd::createSyntax() {
   KSyntax syntax;
   syntax.enableQuery(true);
   syntax.enableEdit(false);
-  for (const FlagRow& row : kFlags) {
-    syntax.addFlag(row.shortName, row.longName, row.argument1, row.argument2);
-  }
+  addFlags(syntax, kFlags);
   return syntax;
 }
 

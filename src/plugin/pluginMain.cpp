@@ -4,6 +4,7 @@
 #include "platform/OpenVesk/KMessage.h"
 #include "platform/OpenVesk/KSceneMessage.h"
 #include "plugin/orvActionCmd.h"
+#include "plugin/orvChangeBracketCmd.h"
 #include "plugin/pluginMessages.h"
 #include "plugin/pluginName.h"
 
@@ -26,6 +27,7 @@ struct CommandRow {
 /// In the order in which the commands come up and go down.
 constexpr CommandRow kCommands[] = {
     {"orv", orvActionCmd::creator, orvActionCmd::createSyntax},
+    {"orvChangeBracket", orvChangeBracketCmd::creator, orvChangeBracketCmd::createSyntax},
 };
 
 void registerCommand(KFnPlugin& plugin, const CommandRow& row, KStatus& status) {

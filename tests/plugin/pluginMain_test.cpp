@@ -8,6 +8,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
+/// The last command, whose status is that of the load and of the unload.
+constexpr const char* kLast = "orvChangeBracket";
+
 using EntryPoint = KStatus (*)(KObject);
 
 class PluginMain : public ModuleTest {
@@ -18,10 +21,10 @@ class PluginMain : public ModuleTest {
     return function(HostAccess::object(module()));
   }
 
-  /// Takes the name of the module's command.
-  void takeName() {
+  /// Takes the name of one of the module's commands.
+  void takeName(const char* name) {
     const auto help = session_->registry().find("help");
-    session_->registry().add({"orv", help->creator, help->syntax, nullptr, {}});
+    session_->registry().add({name, help->creator, help->syntax, nullptr, {}});
   }
 
   bool listensToTheScene() { return session_->sceneEvents().hasCallbackIn(module()->base()); }
@@ -40,24 +43,26 @@ TEST_F(PluginMain, TellsItsVendorAndVersion) {
 
 TEST_F(PluginMain, RegistersItsCommands) {
   ASSERT_TRUE(load());
-  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), R"(["orv"])");
+  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), R"(["orv","orvChangeBracket"])");
 }
 
 TEST_F(PluginMain, RegistersMessagesThenCommandsThenTheSceneCallback) {
   ASSERT_TRUE(load());
   const std::vector<std::string> calls = takeRecordedCalls();
-  ASSERT_EQ(calls.size(), 34u);
+  ASSERT_EQ(calls.size(), 35u);
   EXPECT_EQ(calls[0], "registerString rParsingError");
   EXPECT_EQ(calls[31], "registerString rFlagIsNotQuery");
   EXPECT_EQ(calls[32], "registerCommand orv");
-  EXPECT_EQ(calls[33], "addCallback 30");
+  EXPECT_EQ(calls[33], "registerCommand orvChangeBracket");
+  EXPECT_EQ(calls[34], "addCallback 30");
 }
 
 TEST_F(PluginMain, RemovesTheSceneCallbackThenDeregistersItsCommands) {
   ASSERT_TRUE(load());
   takeRecordedCalls();
   ASSERT_TRUE(unload());
-  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback", "deregisterCommand orv"));
+  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback", "deregisterCommand orv",
+                                               "deregisterCommand orvChangeBracket"));
 }
 
 TEST_F(PluginMain, LeavesNoCommandAndNoCallbackBehind) {
@@ -69,11 +74,11 @@ TEST_F(PluginMain, LeavesNoCommandAndNoCallbackBehind) {
   ASSERT_TRUE(call("initializePlugin"));
 }
 
-TEST_F(PluginMain, ATakenNameIsToldAndIsTheStatusOfTheLoad) {
-  takeName();
+TEST_F(PluginMain, ATakenLastNameIsToldAndIsTheStatusOfTheLoad) {
+  takeName(kLast);
   EXPECT_EQ(load().statusCode(), StatusFailure);
   EXPECT_THAT(takeMessages(),
-              ElementsAre("! Failed to register plugin command: orv",
+              ElementsAre("! Failed to register plugin command: orvChangeBracket",
                           AllOf(HasSubstr("cannot load the plug-in"),
                                 HasSubstr("initializePlugin failed with status 1"))));
 
@@ -81,27 +86,53 @@ TEST_F(PluginMain, ATakenNameIsToldAndIsTheStatusOfTheLoad) {
   takeMessages();
 }
 
-TEST_F(PluginMain, ATakenNameKeepsItsCommand) {
-  takeName();
+TEST_F(PluginMain, ATakenLastNameLeavesTheOtherCommands) {
+  takeName(kLast);
   EXPECT_FALSE(load());
-  EXPECT_EQ(session_->registry().find("orv")->owner, nullptr);
+  EXPECT_EQ(resultOf("orv -rt"), R"(["empty","single"])");
   EXPECT_FALSE(unload());
-  EXPECT_EQ(session_->registry().find("orv")->owner, nullptr);
+  takeMessages();
+}
+
+TEST_F(PluginMain, AnotherTakenNameIsToldAndTheLoadSucceeds) {
+  takeName("orv");
+  EXPECT_TRUE(load());
+  EXPECT_THAT(takeMessages(), ElementsAre("! Failed to register plugin command: orv"));
+  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), R"(["orvChangeBracket"])");
+}
+
+TEST_F(PluginMain, ATakenNameKeepsItsCommand) {
+  for (const char* name : {"orv", kLast}) {
+    takeName(name);
+    load();
+    EXPECT_EQ(session_->registry().find(name)->owner, nullptr) << name;
+    unload();
+    EXPECT_EQ(session_->registry().find(name)->owner, nullptr) << name;
+  }
   takeMessages();
 }
 
 TEST_F(PluginMain, AfterATakenNameTheSceneCallbackIsThereAllTheSame) {
-  takeName();
+  takeName(kLast);
   EXPECT_FALSE(load());
   EXPECT_TRUE(listensToTheScene());
   EXPECT_FALSE(unload());
   takeMessages();
 }
 
-TEST_F(PluginMain, AFailedDeregistrationIsTheStatusOfTheUnloadAndShowsNothing) {
+TEST_F(PluginMain, AFailedLastDeregistrationIsTheStatusOfTheUnloadAndShowsNothing) {
+  ASSERT_TRUE(load());
+  session_->registry().remove(kLast, module().get());
+  EXPECT_EQ(call("uninitializePlugin").statusCode(), StatusFailure);
+  EXPECT_THAT(takeMessages(), IsEmpty());
+
+  EXPECT_TRUE(call("initializePlugin"));
+}
+
+TEST_F(PluginMain, AnotherFailedDeregistrationIsNotTheStatusOfTheUnload) {
   ASSERT_TRUE(load());
   session_->registry().remove("orv", module().get());
-  EXPECT_EQ(call("uninitializePlugin").statusCode(), StatusFailure);
+  EXPECT_TRUE(call("uninitializePlugin"));
   EXPECT_THAT(takeMessages(), IsEmpty());
 
   EXPECT_TRUE(call("initializePlugin"));
@@ -151,7 +182,8 @@ TEST_F(PluginMain, RemovesItsCallbackNoSecondTime) {
   session_->sceneEvents().send(vesk::SceneEvent::Exiting);
   takeRecordedCalls();
   ASSERT_TRUE(unload());
-  EXPECT_THAT(takeRecordedCalls(), ElementsAre("deregisterCommand orv"));
+  EXPECT_THAT(takeRecordedCalls(),
+              ElementsAre("deregisterCommand orv", "deregisterCommand orvChangeBracket"));
 }
 
 TEST_F(PluginMain, IgnoresTheOtherEventsOfTheScene) {
@@ -166,7 +198,8 @@ TEST_F(PluginMain, GoesInOrderWhenTheSessionEnds) {
   ASSERT_TRUE(load());
   takeRecordedCalls();
   session_->exit();
-  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback", "deregisterCommand orv"));
+  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback", "deregisterCommand orv",
+                                               "deregisterCommand orvChangeBracket"));
 }
 
 }  // namespace

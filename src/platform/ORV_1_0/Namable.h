@@ -4,12 +4,20 @@
 
 namespace ORV_v1 {
 
-/// A name or a path, in UTF-8. A copy is a value of its own: a caller may extend the copy that it
-/// was given without touching the object that gave it.
+/// A name or a path, in UTF-8. A graph object has a `Namable` part too, whose text is the object's
+/// own name. A copy is always a value of its own, also that of such a part: a caller may extend the
+/// copy that it was given without touching the object that gave it.
 class ORV_EXPORT Namable {
  public:
+  /// Empty text. Allocates nothing, so that an object which overrides every operation below may
+  /// keep its name where it likes.
   Namable();
+
+  /// Takes over what `getName` of the other gives.
   Namable(const Namable& other);
+
+  /// The same as `setName` with the other's name: assigning to the part of a graph object renames
+  /// that object.
   Namable& operator=(const Namable& other);
   virtual ~Namable();
 
@@ -21,10 +29,15 @@ class ORV_EXPORT Namable {
   virtual void appendNodeName(const char* name);
   virtual void appendPortName(const char* name);
 
+  /// Replaces the text; null counts as empty. On a graph object it renames the object, which may
+  /// end up with another name than the one asked for: read it back with `getName`.
+  virtual void setName(const char* name);
+
  private:
   friend struct GraphAccess;
   struct Rep;
-  Rep* rep_;
+  /// Null for empty text.
+  Rep* rep_ = nullptr;
 };
 
 }  // namespace ORV_v1

@@ -12,10 +12,13 @@ class ORV_EXPORT PortDataType : public ReferenceCounted, public Namable {
   /// The name to show to a user, valid while this object lives.
   const char* getNiceName() const;
 
+  const char* getName() const override;
+
   /// A type keeps its name: on the type itself these do nothing. A copy of its `Namable` part can
-  /// be extended like any other.
+  /// be changed like any other.
   void appendNodeName(const char* name) override;
   void appendPortName(const char* name) override;
+  void setName(const char* name) override;
 
  private:
   friend struct GraphAccess;

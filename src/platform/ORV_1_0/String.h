@@ -4,7 +4,7 @@
 
 namespace ORV_v1 {
 
-/// The library's string, in UTF-8.
+/// The library's string, in UTF-8. An empty one costs a pointer.
 class ORV_EXPORT String {
  public:
   String();
@@ -20,7 +20,8 @@ class ORV_EXPORT String {
  private:
   friend struct GraphAccess;
   struct Rep;
-  Rep* rep_;
+  /// Null for empty text.
+  Rep* rep_ = nullptr;
 };
 
 }  // namespace ORV_v1

@@ -42,6 +42,12 @@ std::string defaultPreferencesFolder() {
   return settings.toStdString() + "/vesk";
 }
 
+std::string defaultPublishedFolder() {
+  if (const char* folder = std::getenv("VESK_PUBLISHED_DIR"); folder && *folder) return folder;
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return data.toStdString() + "/vesk/library";
+}
+
 std::string localeLanguage() {
   for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
     const char* value = std::getenv(variable);

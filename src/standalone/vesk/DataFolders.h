@@ -15,6 +15,10 @@ std::string shippedModulePath();
 /// user's configuration folder.
 std::string defaultPreferencesFolder();
 
+/// Where the compounds live that the user publishes: the environment variable `VESK_PUBLISHED_DIR`,
+/// else `vesk/library` in the user's data folder.
+std::string defaultPublishedFolder();
+
 /// The language of the messages in the locale, such as "de_AT"; empty for none.
 std::string localeLanguage();
 

@@ -40,6 +40,8 @@ const OptionRow kOptions[] = {
      [](ProgramOptions& o, const char* a) { o.libraries.emplace_back(a); }},
     {"prefs", 0, "DIR", "keep the option variables here (also: VESK_PREFS_DIR)",
      [](ProgramOptions& o, const char* a) { o.preferencesFolder = a; }},
+    {"published", 0, "DIR", "keep published compounds here (also: VESK_PUBLISHED_DIR)",
+     [](ProgramOptions& o, const char* a) { o.publishedFolder = a; }},
     {"journal", 0, "FILE", "write the lines that ran to this file",
      [](ProgramOptions& o, const char* a) { o.journal = a; }},
     {"language", 0, "NAME", "show texts in this language, such as de (default: the locale's)",

@@ -17,6 +17,7 @@ struct ProgramOptions {
   std::vector<std::string> plugins;
   std::vector<std::string> libraries;
   std::string preferencesFolder;
+  std::string publishedFolder;
   std::string journal;
   std::string language;
   bool batch = false;  ///< never prompt; whoever runs the lines sets it when nobody can answer

@@ -3,7 +3,10 @@
 #include <filesystem>
 #include <utility>
 
+#include "standalone/host/scene/Scene.h"
 #include "standalone/vesk/DataFolders.h"
+#include "standalone/vesk/OrvGraphPayload.h"
+#include "standalone/vesk/evaluateCommand.h"
 
 namespace vesk {
 namespace {
@@ -21,6 +24,11 @@ SessionOptions sessionOptions(const ProgramOptions& options, bool kept) {
   return session;
 }
 
+std::string publishedFolder(const ProgramOptions& options, bool kept) {
+  const bool byDefault = kept && options.publishedFolder.empty();
+  return byDefault ? defaultPublishedFolder() : options.publishedFolder;
+}
+
 }  // namespace
 
 Platform::Platform(const ProgramOptions& options, LineListener& listener, bool kept)
@@ -28,7 +36,10 @@ Platform::Platform(const ProgramOptions& options, LineListener& listener, bool k
   SessionOptions session = sessionOptions(options, kept);
   session.messages = [this](const Message& message) { listener_->message(message); };
   session_ = std::make_unique<HostSession>(std::move(session));
+  addOrvGraphType(session_->scene().types());
+  registerEvaluateCommand(session_->registry());
   runtimes_->makeCurrent();
+  runtimes_->setPublishedFolder(publishedFolder(options, kept));
   runtimes_->setDiagnosticHandler([this](const orvlib::Diagnostic& diagnostic) {
     session_->messages().warning(diagnostic.toText());
   });

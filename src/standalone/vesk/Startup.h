@@ -15,8 +15,8 @@ namespace vesk {
 class Platform {
  public:
   /// `listener` hears the messages that come while no line runs. `kept` says whether the user's
-  /// settings and language count: they do for a user, and do not for a transcript that must come
-  /// out the same everywhere.
+  /// settings, language and published compounds count: they do for a user, and do not for a
+  /// transcript that must come out the same everywhere.
   Platform(const ProgramOptions& options, LineListener& listener, bool kept);
   ~Platform();
 

@@ -21,10 +21,11 @@ TEST(PortDataType, AnswersWithItsTypeName) {
 
 TEST(PortDataType, AnswersWithItsNiceName) { EXPECT_STREQ(makeFloat()->getNiceName(), "Float"); }
 
-TEST(PortDataType, KeepsItsNameWhenAskedToExtendIt) {
+TEST(PortDataType, KeepsItsNameWhenAskedToChangeIt) {
   const auto type = makeFloat();
   type->appendNodeName("x");
   type->appendPortName("y");
+  type->setName("z");
   EXPECT_STREQ(type->getName(), "float");
 }
 
@@ -32,6 +33,12 @@ TEST(PortDataType, ACopyOfItsNameCanBeExtended) {
   ORV_v1::Namable name(*makeFloat());
   name.appendPortName("x");
   EXPECT_STREQ(name.getName(), "float.x");
+}
+
+TEST(PortDataType, ACopyOfItsNameCanBeReplaced) {
+  ORV_v1::Namable name(*makeFloat());
+  name.setName("x");
+  EXPECT_STREQ(name.getName(), "x");
 }
 
 }  // namespace

@@ -65,5 +65,19 @@ TEST(DefaultPreferencesFolder, IsInTheUsersConfigurationOtherwise) {
   unsetenv("XDG_CONFIG_HOME");
 }
 
+TEST(DefaultPublishedFolder, IsThatOfTheVariable) {
+  setenv("VESK_PUBLISHED_DIR", "/some/where", 1);
+  EXPECT_EQ(defaultPublishedFolder(), "/some/where");
+  unsetenv("VESK_PUBLISHED_DIR");
+}
+
+TEST(DefaultPublishedFolder, IsInTheUsersDataOtherwise) {
+  setenv("VESK_PUBLISHED_DIR", "", 1);
+  setenv("XDG_DATA_HOME", "/data", 1);
+  EXPECT_EQ(defaultPublishedFolder(), "/data/vesk/library");
+  unsetenv("VESK_PUBLISHED_DIR");
+  unsetenv("XDG_DATA_HOME");
+}
+
 }  // namespace
 }  // namespace vesk

@@ -74,12 +74,13 @@ TEST(ProgramOptions, ReadEachSwitch) {
 }
 
 TEST(ProgramOptions, ReadEachValue) {
-  const ProgramOptions options =
-      readWell({"--plugin", "a.so", "--plugin=b.so", "--library", "one", "--library", "two",
-                "--prefs", "settings", "--journal", "log", "--language", "de_AT"});
+  const ProgramOptions options = readWell({"--plugin", "a.so", "--plugin=b.so", "--library", "one",
+                                           "--library", "two", "--prefs", "settings", "--published",
+                                           "own", "--journal", "log", "--language", "de_AT"});
   EXPECT_THAT(options.plugins, ElementsAre("a.so", "b.so"));
   EXPECT_THAT(options.libraries, ElementsAre("one", "two"));
   EXPECT_EQ(options.preferencesFolder, "settings");
+  EXPECT_EQ(options.publishedFolder, "own");
   EXPECT_EQ(options.journal, "log");
   EXPECT_EQ(options.language, "de_AT");
 }
@@ -108,7 +109,7 @@ TEST_P(NeedsAnArgument, IsToldWithItsName) {
 
 INSTANTIATE_TEST_SUITE_P(Each, NeedsAnArgument,
                          ::testing::Values("-c", "--command", "--plugin", "--library", "--prefs",
-                                           "--journal", "--language"));
+                                           "--published", "--journal", "--language"));
 
 TEST(ProgramOptions, RefuseWhatContradictsItself) {
   EXPECT_EQ(problemOf({"--update", "a.vtr"}), "--update goes with --check");
@@ -127,8 +128,8 @@ TEST(ProgramHelp, BeginsWithTheUsage) {
 TEST(ProgramHelp, NamesEveryOption) {
   for (const char* option :
        {"-c, --command LINE", "--batch", "--keep-going", "--transcript", "--check", "--update",
-        "--plugin PATH", "--no-plugin", "--library DIR", "--prefs DIR", "--journal FILE",
-        "--language NAME", "--version", "-h, --help"}) {
+        "--plugin PATH", "--no-plugin", "--library DIR", "--prefs DIR", "--published DIR",
+        "--journal FILE", "--language NAME", "--version", "-h, --help"}) {
     EXPECT_THAT(programHelp(), HasSubstr(option));
   }
 }

@@ -34,6 +34,7 @@ inline ProgramRun runProcess(const std::string& program, const std::vector<std::
     environment.remove(name);
   }
   environment.insert("VESK_PREFS_DIR", QString::fromStdString(preferences.path().string()));
+  environment.insert("VESK_PUBLISHED_DIR", QString::fromStdString(preferences.path().string()));
   for (const auto& [name, value] : setting.variables) {
     environment.insert(QString::fromStdString(name), QString::fromStdString(value));
   }

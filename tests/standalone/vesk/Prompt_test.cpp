@@ -86,6 +86,7 @@ class Terminal {
     if (child_ != 0) return;
     setenv("TERM", "xterm", 1);
     setenv("LC_ALL", "C.UTF-8", 1);
+    setenv("VESK_PUBLISHED_DIR", preferences.c_str(), 1);
     execl(kVesk.c_str(), "vesk", "--prefs", preferences.c_str(), option, nullptr);
     _exit(127);
   }

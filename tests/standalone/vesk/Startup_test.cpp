@@ -91,6 +91,29 @@ TEST(StartupLibraries, MustBeFolders) {
   }
 }
 
+class PublishedFolder : public testing::Test {
+ protected:
+  /// The warnings of a program whose published compound of the runtime is damaged.
+  std::string warnings(std::vector<std::string> arguments, const std::string& variable) {
+    folder_.write("standard/soft.yaml", "nonsense\n");
+    arguments.insert(arguments.end(), {"-c", "echo done"});
+    return runVesk(arguments, {.variables = {{"VESK_PUBLISHED_DIR", variable}}}).err;
+  }
+
+  std::string path() const { return folder_.path().string(); }
+
+  static constexpr const char* kReason = "a compound must be a mapping";
+  TemporaryFolder folder_;
+};
+
+TEST_F(PublishedFolder, IsThatOfTheOption) {
+  EXPECT_THAT(warnings({"--published", path()}, "nowhere"), testing::HasSubstr(kReason));
+}
+
+TEST_F(PublishedFolder, IsThatOfTheVariableOtherwise) {
+  EXPECT_THAT(warnings({}, path()), testing::HasSubstr(kReason));
+}
+
 class DamagedLibrary : public testing::Test {
  protected:
   DamagedLibrary() {

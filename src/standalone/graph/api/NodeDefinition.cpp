@@ -20,4 +20,9 @@ const orvlib::NodeDescription& GraphAccess::describe(const NodeDefinition& node)
   return *node.rep_->description;
 }
 
+std::shared_ptr<const orvlib::NodeDescription> GraphAccess::sharedDescription(
+    const NodeDefinition& node) {
+  return node.rep_->description;
+}
+
 }  // namespace ORV_v1

@@ -1,17 +1,15 @@
 #include "platform/ORV_1_0/Runtime.h"
 
 #include "standalone/graph/api/GraphAccess.h"
-#include "standalone/graph/library/RuntimeRegistry.h"
+#include "standalone/graph/library/LoadedRuntime.h"
+#include "standalone/graph/published/Following.h"
 
 namespace ORV_v1 {
 
 Runtime::Runtime(Rep* rep) : rep_(rep) {}
 Runtime::~Runtime() { delete rep_; }
 
-void Runtime::forceRebuildCompounds() {
-  const auto diagnostics = rep_->loaded->rebuild();
-  if (const auto* registry = orvlib::RuntimeRegistry::current()) registry->report(diagnostics);
-}
+void Runtime::forceRebuildCompounds() { orvlib::rebuildRuntime(*this); }
 
 AddRefWrapper<NodeLibrary> Runtime::getRootLibrary() const {
   return rep_->loaded->content().rootLibrary;

@@ -1,24 +1,27 @@
 #include "platform/ORV_1_0/String.h"
 
-#include <string>
+#include "standalone/graph/api/GraphAccess.h"
 
 namespace ORV_v1 {
 
-struct String::Rep {
-  std::string text;
-};
-
-String::String() : rep_(new Rep) {}
-String::String(const String& other) : rep_(new Rep(*other.rep_)) {}
+String::String() = default;
+String::String(const String& other) : rep_(other.rep_ ? new Rep(*other.rep_) : nullptr) {}
 String::~String() { delete rep_; }
 
 String& String::operator=(const String& other) {
-  *rep_ = *other.rep_;
+  String copy(other);
+  std::swap(rep_, copy.rep_);
   return *this;
 }
 
-const char* String::toChar() const { return rep_->text.c_str(); }
+const char* String::toChar() const { return rep_ ? rep_->text.c_str() : ""; }
 
-bool String::empty() const { return rep_->text.empty(); }
+bool String::empty() const { return rep_ == nullptr; }
+
+String GraphAccess::makeString(std::string_view text) {
+  String string;
+  if (!text.empty()) string.rep_ = new String::Rep{std::string(text)};
+  return string;
+}
 
 }  // namespace ORV_v1

@@ -1,13 +1,13 @@
 #include "platform/ORV_1_0/StringArray.h"
 
-#include <string>
-#include <vector>
+#include "standalone/graph/api/GraphAccess.h"
+#include "standalone/graph/texts/ListText.h"
 
 namespace ORV_v1 {
 
-struct StringArray::Rep {
-  std::vector<std::string> texts;
-};
+constinit const StringArray::SerializationTags StringArray::kDefaultSerializationTags = {
+    orvlib::ListTags().open, orvlib::ListTags().close, orvlib::ListTags().separator,
+    orvlib::ListTags().escape};
 
 StringArray::StringArray() : rep_(new Rep) {}
 StringArray::StringArray(const StringArray& other) : rep_(new Rep(*other.rep_)) {}
@@ -31,5 +31,22 @@ const char* StringArray::operator[](unsigned int index) const {
 ListIterator<StringArray> StringArray::begin() const { return {*this, 0}; }
 
 ListIterator<StringArray> StringArray::end() const { return {*this, size()}; }
+
+String StringArray::serialize(SerializeMode, const SerializationTags& tags) const {
+  const orvlib::ListTags listTags{tags.open, tags.close, tags.separator, tags.escape};
+  return GraphAccess::makeString(orvlib::writeList(rep_->texts, listTags));
+}
+
+StringArray GraphAccess::makeStringArray(std::vector<std::string> texts) {
+  StringArray array;
+  array.rep_->texts = std::move(texts);
+  return array;
+}
+
+const std::vector<std::string>& GraphAccess::textsOf(const StringArray& array) {
+  return array.rep_->texts;
+}
+
+std::vector<std::string>& GraphAccess::textsOf(StringArray& array) { return array.rep_->texts; }
 
 }  // namespace ORV_v1

@@ -9,6 +9,7 @@ namespace orvlib {
 namespace {
 
 constexpr std::uintmax_t kLargestFile = 4ULL * 1024 * 1024;
+constexpr const char* kTooLarge = "the file is larger than 4 MiB";
 
 std::string readBytes(const std::filesystem::path& file) {
   std::error_code error;
@@ -18,7 +19,7 @@ std::string readBytes(const std::filesystem::path& file) {
   }
   const auto size = std::filesystem::file_size(file, error);
   if (!error && size > kLargestFile) {
-    throw DefinitionError({}, "the file is larger than 4 MiB");
+    throw DefinitionError({}, kTooLarge);
   }
   std::ifstream stream(file, std::ios::binary);
   std::string bytes(error ? 0 : size, '\0');
@@ -76,9 +77,13 @@ void checkIsText(std::string_view bytes) {
 }  // namespace
 
 YamlNode readDefinitionFile(const std::filesystem::path& file) {
-  const std::string bytes = readBytes(file);
-  checkIsText(bytes);
-  YamlNode root = parseYaml(bytes);
+  return parseDefinition(readBytes(file));
+}
+
+YamlNode parseDefinition(const std::string& text) {
+  if (text.size() > kLargestFile) throw DefinitionError({}, kTooLarge);
+  checkIsText(text);
+  YamlNode root = parseYaml(text);
   if (root.kind == YamlNode::Kind::Null) throw DefinitionError({}, "the file is empty");
   return root;
 }

@@ -11,6 +11,9 @@ namespace orvlib {
 /// larger than any definition file, or is empty.
 YamlNode readDefinitionFile(const std::filesystem::path& file);
 
+/// The same of the text that such a file would have.
+YamlNode parseDefinition(const std::string& text);
+
 /// What `read` makes of the file's document, or an empty result with a diagnostic.
 template <class Read>
 auto readOrReport(const std::filesystem::path& file, Diagnostics& diagnostics, Read read)

@@ -83,6 +83,15 @@ const std::string& Fields::qualifiedName(std::string_view key) const {
   return value;
 }
 
+bool Fields::flag(std::string_view key) const {
+  const YamlNode* value = find(key);
+  if (!value) return false;
+  const bool isTrue = value->kind == YamlNode::Kind::Scalar && value->text == "true";
+  const bool isFalse = value->kind == YamlNode::Kind::Scalar && value->text == "false";
+  if (!isTrue && !isFalse) fail(key, quoted(key) + " must be true or false");
+  return isTrue;
+}
+
 std::span<const YamlNode> Fields::list(std::string_view key) const {
   const YamlNode* value = find(key);
   if (!value) return {};

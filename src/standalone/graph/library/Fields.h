@@ -30,6 +30,9 @@ class Fields {
   const std::string& identifier(std::string_view key) const;
   const std::string& qualifiedName(std::string_view key) const;
 
+  /// True or false as the key says; false when it is absent.
+  bool flag(std::string_view key) const;
+
   /// The items of a list; none when the key is absent.
   std::span<const YamlNode> list(std::string_view key) const;
 

@@ -2,72 +2,28 @@
 
 #include <unordered_set>
 
-#include "standalone/graph/library/Fields.h"
-#include "standalone/graph/library/ValueReader.h"
+#include "standalone/graph/library/PortReader.h"
 
 namespace orvlib {
 namespace {
 
 using NameSet = std::unordered_set<std::string>;
 
-TypeHandle readType(const Fields& fields, const TypeTable& types) {
-  TypeHandle type = types.find(fields.text("type"));
-  if (!type) fields.fail("type", "the runtime has no port type '" + fields.text("type") + "'");
-  return type;
+std::shared_ptr<const NodeDescription> readNode(const YamlNode& item, const std::string& library,
+                                                const TypeTable& types) {
+  const Fields fields(item, "a node", {"name", "niceName", "description", "inputs", "outputs"});
+  auto node = std::make_shared<NodeDescription>();
+  node->name = library + "::" + fields.identifier("name");
+  node->niceName = fields.line("niceName");
+  node->description = fields.text("description");
+  node->ports = readPorts(fields, node->name, types);
+  return node;
 }
-
-PortDescription readPort(const YamlNode& node, PortDirection direction, const TypeTable& types) {
-  const bool isInput = direction == PortDirection::Input;
-  const Fields fields = isInput
-                            ? Fields(node, "an input", {"name", "type", "default", "description"})
-                            : Fields(node, "an output", {"name", "type", "description"});
-  PortDescription port;
-  port.name = fields.identifier("name");
-  port.direction = direction;
-  port.type = readType(fields, types);
-  port.defaultValue = readDefault(fields, *port.type, port.type->defaultValue);
-  port.description = fields.text("description");
-  return port;
-}
-
-class NodeReader {
- public:
-  NodeReader(const YamlNode& node, const std::string& library, const TypeTable& types)
-      : fields_(node, "a node", {"name", "niceName", "description", "inputs", "outputs"}),
-        types_(types) {
-    node_.name = library + "::" + fields_.identifier("name");
-    node_.niceName = fields_.line("niceName");
-    node_.description = fields_.text("description");
-    readPorts("inputs", PortDirection::Input);
-    readPorts("outputs", PortDirection::Output);
-  }
-
-  NodeDescription take() { return std::move(node_); }
-
- private:
-  void readPorts(const char* key, PortDirection direction) {
-    for (const YamlNode& item : fields_.list(key)) {
-      PortDescription port = readPort(item, direction, types_);
-      if (!portNames_.insert(port.name).second) {
-        throw DefinitionError(
-            item.position,
-            "node '" + node_.name + "' has more than one port named '" + port.name + "'");
-      }
-      node_.ports.push_back(std::move(port));
-    }
-  }
-
-  Fields fields_;
-  const TypeTable& types_;
-  NodeDescription node_;
-  NameSet portNames_;
-};
 
 void readNodes(const Fields& fields, const TypeTable& types, LibraryDescription& library) {
   NameSet names;
   for (const YamlNode& item : fields.list("nodes")) {
-    auto node =
-        std::make_shared<const NodeDescription>(NodeReader(item, library.name, types).take());
+    auto node = readNode(item, library.name, types);
     if (!names.insert(node->name).second) {
       throw DefinitionError(item.position,
                             "the library has more than one node named '" + node->name + "'");

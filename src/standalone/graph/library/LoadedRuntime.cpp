@@ -1,7 +1,7 @@
 #include "standalone/graph/library/LoadedRuntime.h"
 
 #include "standalone/graph/library/DefinitionFile.h"
-#include "standalone/graph/library/LibraryReader.h"
+#include "standalone/graph/library/DefinitionFiles.h"
 #include "standalone/graph/library/RuntimeReader.h"
 
 namespace orvlib {
@@ -13,31 +13,18 @@ T found(const NameMap<T>& map, std::string_view name) {
   return entry == map.end() ? T() : entry->second;
 }
 
-/// The files of libraries, each still without a library, sorted by name.
-LibrariesByFile libraryFiles(const std::filesystem::path& folder, Diagnostics& diagnostics) {
-  LibrariesByFile files;
-  std::error_code error;
-  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    const auto& path = entry->path();
-    if (path.extension() == ".yaml" && path.filename() != "runtime.yaml") files[path] = nullptr;
-  }
-  if (error) {
-    diagnostics.push_back({folder.string(), 0, 0, "the folder cannot be read: " + error.message()});
-  }
-  return files;
-}
-
 }  // namespace
 
 LoadedRuntime::LoadedRuntime(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
 std::unique_ptr<LoadedRuntime> LoadedRuntime::load(const std::filesystem::path& folder,
-                                                   Diagnostics& diagnostics) {
+                                                   Diagnostics& diagnostics,
+                                                   const std::filesystem::path& published) {
   std::unique_ptr<LoadedRuntime> runtime(new LoadedRuntime(folder));
   runtime->description_ = readOrReport(runtime->file(), diagnostics, readRuntime);
   if (!runtime->description_) return nullptr;
-  runtime->readLibraries(diagnostics);
+  if (!published.empty()) runtime->published_ = published / runtime->description_->name;
+  runtime->readDefinitions(diagnostics);
   if (runtime->lacksRoot()) diagnostics.push_back(runtime->missingRoot());
   return runtime;
 }
@@ -46,18 +33,20 @@ Diagnostics LoadedRuntime::rebuild() {
   Diagnostics diagnostics;
   const auto formerDescription = description_;
   const LibrariesByFile formerLibraries = libraries_;
+  const CompoundFiles formerCompounds = compounds_;
   rereadDescription(diagnostics);
-  Diagnostics ofLibraries;
-  readLibraries(ofLibraries);
+  Diagnostics ofFiles;
+  readDefinitions(ofFiles);
   if (lacksRoot()) diagnostics.push_back(missingRoot());
   if (lacksRoot() && description_ != formerDescription) {
     // The new description names a root that no file has: with it every library would be lost.
     description_ = formerDescription;
     libraries_ = formerLibraries;
-    ofLibraries.clear();
-    readLibraries(ofLibraries);
+    compounds_ = formerCompounds;
+    ofFiles.clear();
+    readDefinitions(ofFiles);
   }
-  diagnostics.insert(diagnostics.end(), ofLibraries.begin(), ofLibraries.end());
+  diagnostics.insert(diagnostics.end(), ofFiles.begin(), ofFiles.end());
   return diagnostics;
 }
 
@@ -74,12 +63,22 @@ void LoadedRuntime::rereadDescription(Diagnostics& diagnostics) {
                              description->name + "'"});
 }
 
-void LoadedRuntime::readLibraries(Diagnostics& diagnostics) {
-  LibrariesByFile current = libraryFiles(folder_, diagnostics);
-  const auto read = [this](const YamlNode& node) { return readLibrary(node, description_->types); };
-  for (auto& [file, library] : current) library = readOrReport(file, diagnostics, read);
-  libraries_ = chooseLibraries(current, libraries_, description_->rootLibrary, diagnostics);
-  content_ = makeContent(*description_, libraries_);
+void LoadedRuntime::readDefinitions(Diagnostics& diagnostics) {
+  const DefinitionFiles former{libraries_, compounds_};
+  DefinitionFiles current =
+      readDefinitionFiles(folder_, published_, former, description_->types, diagnostics);
+  const std::string& root = description_->rootLibrary;
+  libraries_ = chooseLibraries(current.libraries, former.libraries, root, diagnostics);
+  setCompounds(chooseCompounds(current.compounds, former.compounds, libraries_, root, diagnostics));
+}
+
+void LoadedRuntime::setCompounds(CompoundFiles compounds) {
+  compounds_ = std::move(compounds);
+  compoundFiles_.clear();
+  for (const CompoundFile& entry : compounds_) {
+    compoundFiles_.emplace(entry.compound->node->name, entry.file);
+  }
+  content_ = makeContent(*description_, libraries_, compounds_, content_);
 }
 
 bool LoadedRuntime::lacksRoot() const {
@@ -103,6 +102,10 @@ ORV_v1::AddRefWrapper<ORV_v1::NodeLibrary> LoadedRuntime::findLibrary(std::strin
 
 ORV_v1::AddRefWrapper<ORV_v1::NodeDefinition> LoadedRuntime::findNode(std::string_view name) const {
   return found(content_.nodesByName, name);
+}
+
+std::string LoadedRuntime::compoundFile(std::string_view name) const {
+  return found(compoundFiles_, name);
 }
 
 std::filesystem::path LoadedRuntime::file() const { return folder_ / "runtime.yaml"; }

@@ -15,6 +15,9 @@ struct PortDescription {
   /// The value of an input that is not connected and was not set; the type's default for an output.
   Value defaultValue;
 
+  /// An input, of an array type, that takes any number of connections.
+  bool fanIn = false;
+
   std::string description;
 };
 
@@ -27,6 +30,10 @@ struct NodeDescription {
 
   /// Inputs first, then outputs, each in the order of the file. Names are unique over both.
   std::vector<PortDescription> ports;
+
+  /// For a published compound, its content as `writeContent` wrote it; empty for a node that
+  /// computes.
+  std::string content;
 };
 
 }  // namespace orvlib

@@ -39,6 +39,10 @@ void RuntimeRegistry::makeCurrent() { currentRegistry = this; }
 
 RuntimeRegistry* RuntimeRegistry::current() { return currentRegistry; }
 
+void RuntimeRegistry::setPublishedFolder(std::filesystem::path folder) {
+  published_ = std::move(folder);
+}
+
 Diagnostics RuntimeRegistry::load(const std::filesystem::path& folder) {
   Diagnostics diagnostics;
   for (const auto& runtime : foldersIn(folder, diagnostics)) loadRuntime(runtime, diagnostics);
@@ -46,7 +50,7 @@ Diagnostics RuntimeRegistry::load(const std::filesystem::path& folder) {
 }
 
 void RuntimeRegistry::loadRuntime(const std::filesystem::path& folder, Diagnostics& diagnostics) {
-  auto loaded = LoadedRuntime::load(folder, diagnostics);
+  auto loaded = LoadedRuntime::load(folder, diagnostics, published_);
   if (!loaded) return;
   const RuntimeDescription& description = loaded->description();
   if (find(description.name)) {

@@ -23,6 +23,10 @@ class ORV_EXPORT RuntimeRegistry {
   void makeCurrent();
   static RuntimeRegistry* current();
 
+  /// Where the runtimes loaded from now on find and keep what users publish: in the folder in
+  /// `folder` that has their name. It need not be there. Without one, nothing can be published.
+  void setPublishedFolder(std::filesystem::path folder);
+
   /// Loads each folder inside `folder` as a runtime, in the order of their names, after those
   /// already there. What is bad is left out and told; the rest is loaded. A runtime whose name is
   /// taken is bad.
@@ -48,6 +52,7 @@ class ORV_EXPORT RuntimeRegistry {
   std::vector<std::unique_ptr<ORV_v1::Runtime>> runtimes_;
   NameMap<ORV_v1::Runtime*> byName_;
   DiagnosticHandler handler_;
+  std::filesystem::path published_;
 };
 
 }  // namespace orvlib

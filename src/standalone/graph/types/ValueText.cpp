@@ -58,12 +58,12 @@ bool countFits(const ValueType& type, std::size_t count) {
   return type.isArray() ? count % type.componentCount() == 0 : count == type.componentCount();
 }
 
-template <class Scalar>
+template <class Scalars>
 ParsedValue parseScalars(const ValueType& type, const std::vector<std::string>& texts) {
-  std::vector<Scalar> scalars;
+  Scalars scalars;
   scalars.reserve(texts.size());
   for (const std::string& text : texts) {
-    Scalar scalar{};
+    typename Scalars::value_type scalar{};
     if (const std::string wrong = parseScalar(text, scalar); !wrong.empty()) {
       return {std::nullopt, "'" + text + "' " + wrong + " (type '" + type.name + "')"};
     }
@@ -78,15 +78,15 @@ ParsedValue parseValue(const ValueType& type, const std::vector<std::string>& te
   if (!countFits(type, texts.size())) return {std::nullopt, countReason(type, texts.size())};
   switch (type.scalar) {
     case ScalarKind::Boolean:
-      return parseScalars<bool>(type, texts);
+      return parseScalars<Booleans>(type, texts);
     case ScalarKind::Integer:
-      return parseScalars<std::int32_t>(type, texts);
+      return parseScalars<Integers>(type, texts);
     case ScalarKind::Float:
-      return parseScalars<float>(type, texts);
+      return parseScalars<Floats>(type, texts);
     case ScalarKind::String:
       break;
   }
-  return parseScalars<std::string>(type, texts);
+  return parseScalars<Texts>(type, texts);
 }
 
 std::vector<std::string> printValue(const Value& value) {
@@ -104,15 +104,15 @@ Value zeroValue(const ValueType& type) {
   const std::size_t count = type.isArray() ? 0 : type.componentCount();
   switch (type.scalar) {
     case ScalarKind::Boolean:
-      return std::vector<bool>(count);
+      return Booleans(count);
     case ScalarKind::Integer:
-      return std::vector<std::int32_t>(count);
+      return Integers(count);
     case ScalarKind::Float:
-      return std::vector<float>(count);
+      return Floats(count);
     case ScalarKind::String:
       break;
   }
-  return std::vector<std::string>(count);
+  return Texts(count);
 }
 
 const char* toText(ScalarKind kind) { return kScalarKindNames[static_cast<std::size_t>(kind)]; }

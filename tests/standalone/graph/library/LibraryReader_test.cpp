@@ -21,7 +21,8 @@ constexpr const char* kLibrary =
     "    inputs:\n"
     "      - {name: a, type: pair, default: [1, 2.50], description: First.}\n"
     "      - {name: weight, type: float, description: Share.}\n"
-    "      - {name: rest, type: array<pair>, default: [1, 2, 3, 4], description: Others.}\n"
+    "      - {name: rest, type: array<pair>, default: [1, 2, 3, 4], fanIn: true, "
+    "description: Others.}\n"
     "    outputs:\n"
     "      - {name: result, type: pair, description: Mixed.}\n";
 
@@ -66,6 +67,11 @@ TEST_F(LibraryReader, ReadsDefaultsByTheirType) {
   EXPECT_THAT(orvlib::printValue(node().ports[2].defaultValue), ElementsAre("1", "2", "3", "4"));
 }
 
+TEST_F(LibraryReader, AnInputTakesManyConnectionsWhenItSaysSo) {
+  EXPECT_FALSE(node().ports[0].fanIn);
+  EXPECT_TRUE(node().ports[2].fanIn);
+}
+
 TEST_F(LibraryReader, APortWithoutADefaultTakesThatOfItsType) {
   EXPECT_THAT(orvlib::printValue(node().ports[1].defaultValue), ElementsAre("0.25"));
 }
@@ -105,7 +111,7 @@ const Mistake kMistakes[] = {
     {"UnknownNodeKey", "    outputs:", "    output:", 12, 5,
      "a node has no key 'output'; its keys are name, niceName, description, inputs, outputs"},
     {"UnknownInputKey", "default: [1, 2.50]", "value: [1, 2.50]", 9, 31,
-     "an input has no key 'value'; its keys are name, type, default, description"},
+     "an input has no key 'value'; its keys are name, type, default, fanIn, description"},
     {"DefaultOfAnOutput", "type: pair, description: Mixed.",
      "type: pair, default: [0, 0], description: Mixed.", 13, 36,
      "an output has no key 'default'; its keys are name, type, description"},
@@ -131,6 +137,12 @@ const Mistake kMistakes[] = {
      "an input: 'my weight' is no name: use letters, digits and '_', not a digit first"},
     {"UnknownType", "type: float", "type: double", 10, 30,
      "an input: the runtime has no port type 'double'"},
+    {"FanInOfASingleValue", "type: float, ", "type: float, fanIn: true, ", 10, 44,
+     "an input: 'fanIn' needs an array type, which 'float' is not"},
+    {"FanInThatIsNeitherTrueNorFalse", "fanIn: true", "fanIn: yes", 11, 71,
+     "an input: 'fanIn' must be true or false"},
+    {"FanInOfAnOutput", "description: Mixed.", "fanIn: false, description: Mixed.", 13, 36,
+     "an output has no key 'fanIn'; its keys are name, type, description"},
     {"DoubledPortName", "name: rest", "name: a", 11, 9,
      "node 'core::mix' has more than one port named 'a'"},
     {"OutputNamedLikeAnInput", "name: result", "name: a", 13, 9,

@@ -76,9 +76,29 @@ TEST_F(StandardLibrary, NiceNamesAreUniqueInTheirLibrary) {
   }
 }
 
+TEST_F(StandardLibrary, TakesManyConnectionsWhereValuesAreGathered) {
+  std::set<std::string> gathering;
+  forEachPort([&](const std::string& node, const orvlib::PortDescription& port) {
+    if (port.fanIn) gathering.insert(node + "." + port.name);
+  });
+  const std::set<std::string> expected{"core::array::build.elements",
+                                       "core::array::build_int.elements",
+                                       "core::array::build_string.elements",
+                                       "core::array::build_vector3.elements",
+                                       "core::array::sum.array",
+                                       "core::array::average.array",
+                                       "core::array::minimum.array",
+                                       "core::array::maximum.array",
+                                       "core::logic::all.values",
+                                       "core::logic::any.values",
+                                       "core::logic::count_true.values",
+                                       "core::string::join.parts"};
+  EXPECT_EQ(gathering, expected);
+}
+
 TEST_F(StandardLibrary, AMatrixIsTheIdentityByDefault) {
   const auto type = GraphAccess::typeOf(*runtime_->findPortType("matrix3"));
-  EXPECT_EQ(type->defaultValue, orvlib::Value(std::vector<float>{1, 0, 0, 0, 1, 0, 0, 0, 1}));
+  EXPECT_EQ(type->defaultValue, orvlib::Value(orvlib::Floats{1, 0, 0, 0, 1, 0, 0, 0, 1}));
 }
 
 }  // namespace

@@ -81,11 +81,11 @@ TEST(ValueText, PrintsAFloatWithTheFewestDigits) {
 }
 
 TEST(ValueText, EachFloatComesBackBitForBit) {
-  const std::vector<float> floats{0.1F, -0.0F, 1.0F / 3.0F, std::numeric_limits<float>::max(),
-                                  std::numeric_limits<float>::denorm_min()};
+  const orvlib::Floats floats{0.1F, -0.0F, 1.0F / 3.0F, std::numeric_limits<float>::max(),
+                              std::numeric_limits<float>::denorm_min()};
   const auto parsed = parseValue(arrayOf(scalarType(ScalarKind::Float)), printValue(Value(floats)));
   ASSERT_TRUE(parsed.value);
-  const auto& back = std::get<std::vector<float>>(*parsed.value);
+  const auto& back = std::get<orvlib::Floats>(*parsed.value);
   for (std::size_t i = 0; i < floats.size(); ++i) {
     EXPECT_EQ(std::signbit(back[i]), std::signbit(floats[i]));
     EXPECT_EQ(back[i], floats[i]);

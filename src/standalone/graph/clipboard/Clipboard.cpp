@@ -1,0 +1,38 @@
+#include "standalone/graph/clipboard/Clipboard.h"
+
+namespace orvlib {
+namespace {
+
+struct State {
+  SystemClipboard* system = nullptr;
+  bool local = false;
+  std::string text;
+
+  SystemClipboard* inUse() const { return local ? nullptr : system; }
+};
+
+State& state() {
+  static State only;
+  return only;
+}
+
+}  // namespace
+
+SystemClipboard::~SystemClipboard() = default;
+
+void Clipboard::install(SystemClipboard* system) { state().system = system; }
+
+void Clipboard::setLocal(bool local) { state().local = local; }
+
+bool Clipboard::setText(std::string text) {
+  if (SystemClipboard* system = state().inUse()) return system->setText(text);
+  state().text = std::move(text);
+  return true;
+}
+
+std::string Clipboard::text() {
+  const SystemClipboard* system = state().inUse();
+  return system ? system->text() : state().text;
+}
+
+}  // namespace orvlib

@@ -1,0 +1,94 @@
+#include "platform/ORV_1_0/ModifyCompoundPortCommand.h"
+
+#include "standalone/graph/commands/LevelLink.h"
+#include "standalone/graph/commands/PortEdits.h"
+
+namespace ORV_v1 {
+namespace {
+
+using namespace orvlib;
+
+FaultPoint kSetParent("ModifyCompoundPortCommand setParentCompound");
+FaultPoint kRedo("ModifyCompoundPortCommand redo");
+FaultPoint kUndo("ModifyCompoundPortCommand undo");
+
+}  // namespace
+
+struct ModifyCompoundPortCommand::Rep {
+  LevelLink link;
+  PortEdits edits;
+
+  /// Null when the command is not bound.
+  NodeObject* node() const {
+    const CompoundObject* level = link.level();
+    return level ? level->node() : nullptr;
+  }
+};
+
+ModifyCompoundPortCommand::ModifyCompoundPortCommand() : rep_(new Rep) {}
+
+ModifyCompoundPortCommand::ModifyCompoundPortCommand(const AddRefWrapper<Port>& port)
+    : ModifyCompoundPortCommand() {
+  const auto* given = static_cast<const PortObject*>(port.get());
+  NodeObject* node = given ? given->node() : nullptr;
+  if (!node || !node->compound() || !node->container()) return;
+  rep_->link.bind(*node->container(), *node->compound());
+}
+
+ModifyCompoundPortCommand::~ModifyCompoundPortCommand() { delete rep_; }
+
+bool ModifyCompoundPortCommand::setParentCompound(Container* container, const char* path) {
+  return !kSetParent.refuses() && rep_->link.bind(container, path);
+}
+
+bool ModifyCompoundPortCommand::createPort(PortIOType direction, const char* name, const char* type,
+                                           const PortProperties& properties) {
+  return rep_->edits.make(rep_->node(), static_cast<PortDirection>(direction), name, type,
+                          properties);
+}
+
+bool ModifyCompoundPortCommand::renamePort(const char* name, const char* newName) {
+  return rep_->edits.rename(rep_->node(), name, newName);
+}
+
+bool ModifyCompoundPortCommand::movePort(const char* name, unsigned int position) {
+  return rep_->edits.move(rep_->node(), name, position);
+}
+
+bool ModifyCompoundPortCommand::movePort(const char* name, const char* ioNode) {
+  return rep_->edits.show(rep_->node(), name, ioNode);
+}
+
+bool ModifyCompoundPortCommand::hidePort(const char* name, bool hidden) {
+  return rep_->edits.setFlags(rep_->node(), name, kPortHidden, hidden);
+}
+
+bool ModifyCompoundPortCommand::setPortDataType(const char* name, const char* type) {
+  return rep_->edits.setType(rep_->node(), name, type);
+}
+
+bool ModifyCompoundPortCommand::setPortMetaDataValue(const char* name, const char* key,
+                                                     const char* value) {
+  return rep_->edits.setMetadata(rep_->node(), name, key, value);
+}
+
+bool ModifyCompoundPortCommand::deletePort(const char* name) {
+  return rep_->edits.remove(rep_->node(), name);
+}
+
+bool ModifyCompoundPortCommand::setPortValues(const char* name, const StringArray& values,
+                                              bool interactive) {
+  return rep_->edits.setValues(rep_->node(), name, values, interactive);
+}
+
+bool ModifyCompoundPortCommand::resetPortValues(const char* name) {
+  return rep_->edits.resetValues(rep_->node(), name);
+}
+
+bool ModifyCompoundPortCommand::doit() { return redo(); }
+
+bool ModifyCompoundPortCommand::redo() { return rep_->edits.redo(kRedo); }
+
+void ModifyCompoundPortCommand::undo() { rep_->edits.undo(kUndo); }
+
+}  // namespace ORV_v1

@@ -1,0 +1,78 @@
+#include "platform/ORV_1_0/ModifyNodePortCommand.h"
+
+#include "standalone/graph/commands/PortEdits.h"
+
+namespace ORV_v1 {
+namespace {
+
+using namespace orvlib;
+
+FaultPoint kRedo("ModifyNodePortCommand redo");
+FaultPoint kUndo("ModifyNodePortCommand undo");
+
+NodeObject* object(const AddRefWrapper<Node>& node) { return static_cast<NodeObject*>(node.get()); }
+
+/// Whether a search with these values finds the port.
+bool isFoundBy(PortObject& port, Container::ESearchIOType ioType, Container::ESearchMode mode) {
+  const bool either = ioType == Container::kSearchEither;
+  if (!either && static_cast<unsigned int>(port.direction()) != ioType) return false;
+  if (!port.root().twin()) return mode <= Container::kSearchOuter;
+  return mode == (port.isInner() ? Container::kSearchInner : Container::kSearchOuter);
+}
+
+}  // namespace
+
+struct ModifyNodePortCommand::Rep {
+  PortEdits edits;
+};
+
+ModifyNodePortCommand::ModifyNodePortCommand() : rep_(new Rep) {}
+ModifyNodePortCommand::~ModifyNodePortCommand() { delete rep_; }
+
+bool ModifyNodePortCommand::createPort(const AddRefWrapper<Node>& node, PortIOType direction,
+                                       const char* name, const char* type,
+                                       const PortProperties& properties) {
+  return rep_->edits.make(object(node), static_cast<PortDirection>(direction), name, type,
+                          properties);
+}
+
+bool ModifyNodePortCommand::deletePort(const AddRefWrapper<Node>& node, const char* name) {
+  return rep_->edits.remove(object(node), name);
+}
+
+bool ModifyNodePortCommand::setPortValues(const AddRefWrapper<Node>& node, const char* name,
+                                          const StringArray& values, bool interactive) {
+  return rep_->edits.setValues(object(node), name, values, interactive);
+}
+
+bool ModifyNodePortCommand::resetPortValues(const AddRefWrapper<Node>& node, const char* name) {
+  return rep_->edits.resetValues(object(node), name);
+}
+
+bool ModifyNodePortCommand::setPortType(const AddRefWrapper<Node>& node, const char* name,
+                                        const char* type) {
+  return rep_->edits.setType(object(node), name, type);
+}
+
+bool ModifyNodePortCommand::setPortMetaDataValue(const AddRefWrapper<Node>& node, const char* name,
+                                                 const char* key, const char* value) {
+  return rep_->edits.setMetadata(object(node), name, key, value);
+}
+
+bool ModifyNodePortCommand::handlePortFlags(const AddRefWrapper<Port>& port,
+                                            Container::ESearchIOType ioType,
+                                            Container::ESearchMode mode, PortFlags flags,
+                                            QueryPortFlags operation) {
+  auto* given = static_cast<PortObject*>(port.get());
+  const bool on = operation == QueryPortFlags::kSet;
+  if (!on && operation != QueryPortFlags::kClear) return false;
+  return given && isFoundBy(*given, ioType, mode) && rep_->edits.setFlags(given, flags, on);
+}
+
+bool ModifyNodePortCommand::doit() { return redo(); }
+
+bool ModifyNodePortCommand::redo() { return rep_->edits.redo(kRedo); }
+
+void ModifyNodePortCommand::undo() { rep_->edits.undo(kUndo); }
+
+}  // namespace ORV_v1

@@ -1,0 +1,56 @@
+#include "standalone/graph/edits/WireRules.h"
+
+#include "standalone/graph/model/CompoundObject.h"
+#include "standalone/graph/types/Conversion.h"
+
+namespace orvlib {
+namespace {
+
+bool anyBelowConnected(const PortObject& port) {
+  const PortListObject* children = port.madeChildren();
+  if (!children) return false;
+  for (const PortObject* child : children->items()) {
+    if (child->hasPeers() || anyBelowConnected(*child)) return true;
+  }
+  return false;
+}
+
+bool anyAboveConnected(const PortObject& port) {
+  for (const PortObject* above = port.above(); above; above = above->above()) {
+    if (above->hasPeers()) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+CompoundObject* wireLevel(const PortObject& port) {
+  const NodeObject* node = port.node();
+  if (!node) return nullptr;
+  return port.isInner() ? node->compound() : node->parent();
+}
+
+bool canCarry(const PortObject& source, const PortObject& target) {
+  return canConvert(source.valueType(), target.valueType());
+}
+
+bool facesMatch(const PortObject& source, const PortObject& target) {
+  const CompoundObject* level = wireLevel(source);
+  return !source.isInput() && target.isInput() && level && level == wireLevel(target);
+}
+
+bool canConnect(const PortObject& source, const PortObject& target) {
+  return facesMatch(source, target) && !target.hasPeers() && !anyAboveConnected(target) &&
+         !anyBelowConnected(target) && canCarry(source, target);
+}
+
+bool mayChangeFanIn(const PortObject& port) {
+  // The flag says nothing of a port that is no array.
+  if (!port.valueType().isArray()) return true;
+  const PortObject* twin = port.twin();
+  return !port.hasPeers() && (!twin || !twin->hasPeers()) &&
+         (!port.madeChildren() || port.madeChildren()->count() == 0) &&
+         (!twin || !twin->madeChildren() || twin->madeChildren()->count() == 0);
+}
+
+}  // namespace orvlib

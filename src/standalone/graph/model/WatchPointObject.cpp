@@ -1,0 +1,146 @@
+#include "standalone/graph/model/WatchPointObject.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "standalone/graph/model/PortObject.h"
+#include "standalone/graph/texts/ListText.h"
+#include "standalone/graph/types/Conversion.h"
+#include "standalone/graph/types/ValueText.h"
+
+namespace orvlib {
+namespace {
+
+using ORV_v1::GraphAccess;
+
+struct ChoiceRow {
+  const char* value;
+  const char* description;
+};
+
+struct ParameterRow {
+  const char* name;
+  const char* description;
+  std::vector<ChoiceRow> choices;
+};
+
+const std::vector<ParameterRow>& parameters() {
+  static const std::vector<ParameterRow> rows{
+      {"record",
+       "Which evaluations are recorded.",
+       {{"all", "Every evaluation."}, {"changes", "Each evaluation that gave another value."}}},
+      {"limit",
+       "How many evaluations are kept, the latest ones: a whole number from 1 to 1000000.",
+       {}},
+  };
+  return rows;
+}
+
+constexpr std::uint32_t kLargestLimit = 1000000;
+
+const ParameterRow* findParameter(const char* name) {
+  for (const ParameterRow& row : parameters()) {
+    if (name && std::string_view(name) == row.name) return &row;
+  }
+  return nullptr;
+}
+
+std::optional<std::uint32_t> readLimit(std::string_view text) {
+  std::uint32_t limit = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), limit);
+  const bool whole = error == std::errc() && end == text.data() + text.size();
+  return whole && limit >= 1 && limit <= kLargestLimit ? std::optional(limit) : std::nullopt;
+}
+
+}  // namespace
+
+bool WatchPointSetup::set(std::string_view name, std::string_view value) {
+  if (name == "record" && (value == "all" || value == "changes")) {
+    changesOnly = value == "changes";
+    return true;
+  }
+  const auto read = name == "limit" ? readLimit(value) : std::nullopt;
+  if (read) limit = *read;
+  return read.has_value();
+}
+
+std::string WatchPointSetup::get(std::string_view name) const {
+  if (name == "record") return changesOnly ? "changes" : "all";
+  return name == "limit" ? std::to_string(limit) : "";
+}
+
+void WatchPointObject::record(std::uint64_t evaluation, const Value& value) {
+  if (!setup_.enabled) return;
+  due_ = false;
+  const bool same = !records_.empty() && sameValue(records_.back().value, value);
+  if (setup_.changesOnly && same) return;
+  records_.push_back({evaluation, value});
+  while (records_.size() > setup_.limit) records_.pop_front();
+}
+
+bool WatchPointObject::getParameterNames(ORV_v1::StringArray& names) {
+  names.clear();
+  for (const ParameterRow& row : parameters()) names.add(row.name);
+  return true;
+}
+
+bool WatchPointObject::getParameterValues(const char* name, ORV_v1::StringArray& values) {
+  const ParameterRow* row = findParameter(name);
+  if (!row) return false;
+  values.clear();
+  for (const ChoiceRow& choice : row->choices) values.add(choice.value);
+  return true;
+}
+
+bool WatchPointObject::getParameterDescription(const char* name, ORV_v1::String& description) {
+  const ParameterRow* row = findParameter(name);
+  if (row) description = GraphAccess::makeString(row->description);
+  return row != nullptr;
+}
+
+bool WatchPointObject::getParameterValueDescription(const char* name, const char* value,
+                                                    ORV_v1::String& description) {
+  const ParameterRow* row = findParameter(name);
+  if (!row || !value) return false;
+  for (const ChoiceRow& choice : row->choices) {
+    if (std::string_view(value) != choice.value) continue;
+    description = GraphAccess::makeString(choice.description);
+    return true;
+  }
+  return false;
+}
+
+bool WatchPointObject::getParameterValue(const char* name, ORV_v1::String& value) {
+  const ParameterRow* row = findParameter(name);
+  if (row) value = GraphAccess::makeString(setup_.get(row->name));
+  return row != nullptr;
+}
+
+bool WatchPointObject::getRecordNames(ORV_v1::StringArray& names) {
+  names.clear();
+  for (const char* name : {"value", "evaluation"}) names.add(name);
+  return true;
+}
+
+bool WatchPointObject::clearRecordedValues() {
+  if (!port_) return false;
+  records_.clear();
+  return true;
+}
+
+bool WatchPointObject::getRecordedValues(const char* name, ORV_v1::StringArray& values) {
+  const std::string_view asked = name ? name : "";
+  if (asked != "value" && asked != "evaluation") return false;
+  std::vector<std::string> texts;
+  // A smaller limit takes away nothing until the next record, as it may be undone.
+  const std::size_t hidden = records_.size() - std::min<std::size_t>(records_.size(), setup_.limit);
+  for (std::size_t i = hidden; i < records_.size(); ++i) {
+    const Record& record = records_[i];
+    texts.push_back(asked == "value" ? writeList(printValue(record.value))
+                                     : std::to_string(record.evaluation));
+  }
+  GraphAccess::textsOf(values) = std::move(texts);
+  return true;
+}
+
+}  // namespace orvlib

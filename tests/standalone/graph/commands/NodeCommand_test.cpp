@@ -1,0 +1,95 @@
+#include "platform/ORV_1_0/NodeCommand.h"
+
+#include "tests/standalone/graph/commands/CommandFixture.h"
+
+namespace orvlib {
+namespace {
+
+using ORV_v1::NodeFlags;
+using Texts = std::vector<std::string>;
+
+constexpr const char* kAdd = "core::math::add";
+
+class NodeCommandTest : public CommandFixture {
+ protected:
+  NodeCommandTest() { add(top(), kAdd, "a"); }
+
+  Texts created() const { return ORV_v1::GraphAccess::textsOf(command_.getCreatedNodeNames()); }
+
+  ORV_v1::NodeCommand command_;
+};
+
+TEST_F(NodeCommandTest, AddsNodesNamedAfterTheirTypes) {
+  const std::string before = text();
+  ASSERT_TRUE(command_.createNode(compound("/"), kAdd, nullptr));
+  ASSERT_TRUE(command_.createNode(compound("/"), kAdd, ""));
+  EXPECT_EQ(text(), before);
+  ASSERT_TRUE(command_.redo());
+  EXPECT_EQ(created(), (Texts{"add", "add1"}));
+  expectReversible(command_, before);
+}
+
+TEST_F(NodeCommandTest, RefusesAnUnknownTypeAndANullCompound) {
+  EXPECT_FALSE(command_.createNode(compound("/"), "none", nullptr));
+  EXPECT_FALSE(command_.createNode({}, kAdd, nullptr));
+  EXPECT_FALSE(command_.createIONode(compound("/"), static_cast<NodeFlags>(4), nullptr));
+}
+
+TEST_F(NodeCommandTest, ConnectsTheNewNode) {
+  for (const char* target : {"a.a", "/a.b"}) {
+    ORV_v1::NodeCommand command;
+    ASSERT_TRUE(command.createNode(compound("/"), kAdd, target));
+    ASSERT_TRUE(command.redo());
+  }
+  EXPECT_TRUE(wired("/add.result", "/a.a"));
+  EXPECT_TRUE(wired("/add1.result", "/a.b"));
+}
+
+TEST_F(NodeCommandTest, APortToConnectToThatIsMissingUndoesAll) {
+  const std::string before = text();
+  ASSERT_TRUE(command_.createNode(compound("/"), kAdd, nullptr));
+  ASSERT_TRUE(command_.createNode(compound("/"), kAdd, "none.a"));
+  EXPECT_FALSE(command_.redo());
+  EXPECT_EQ(text(), before);
+}
+
+TEST_F(NodeCommandTest, AnInputNodeGetsAPortOfTheCompound) {
+  add(*addCompound(top(), "group"), kAdd, "deep");
+  const std::string before = text();
+  ASSERT_TRUE(command_.createIONode(compound("/group"), NodeFlags::kInputNode, "deep.a"));
+  ASSERT_TRUE(command_.redo());
+  EXPECT_EQ(created(), Texts{"input"});
+  EXPECT_TRUE(wired("/group.a", "/group/deep.a"));
+  EXPECT_EQ(graph_.findNode("/group/input")->outputList().at(0), port("/group.a", 0));
+  expectReversible(command_, before);
+}
+
+TEST_F(NodeCommandTest, RemovesANodeWithItsConnections) {
+  add(top(), kAdd, "b");
+  connect("/a.result", "/b.a");
+  const std::string before = text();
+  ASSERT_TRUE(command_.removeNode(compound("/"), "a"));
+  EXPECT_FALSE(command_.removeNode(compound("/"), "none"));
+  ASSERT_TRUE(command_.redo());
+  EXPECT_EQ(graph_.findNode("/a"), nullptr);
+  EXPECT_FALSE(port("/b.a")->hasPeers());
+  expectReversible(command_, before);
+}
+
+TEST_F(NodeCommandTest, UndoGivesBackTheVeryNode) {
+  const NodeRef node(graph_.findNode("/a"));
+  command_.removeNode(compound("/"), "a");
+  ASSERT_TRUE(command_.redo());
+  ASSERT_TRUE(command_.undo());
+  EXPECT_EQ(graph_.findNode("/a"), node.get());
+}
+
+TEST_F(NodeCommandTest, NamesOfWhatIsUndoneAreNotGiven) {
+  command_.createNode(compound("/"), kAdd, nullptr);
+  ASSERT_TRUE(command_.redo());
+  ASSERT_TRUE(command_.undo());
+  EXPECT_EQ(created(), Texts{});
+}
+
+}  // namespace
+}  // namespace orvlib

@@ -1,0 +1,99 @@
+#include "platform/ORV_1_0/PasteCommand.h"
+
+#include "platform/ORV_1_0/CopyCommand.h"
+#include "platform/ORV_1_0/WatchPointCommand.h"
+#include "standalone/graph/clipboard/Clipboard.h"
+#include "tests/standalone/graph/commands/CommandFixture.h"
+
+namespace orvlib {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+/// first -> a -> b; the copies are of a and b.
+class PasteCommandTest : public CommandFixture {
+ protected:
+  PasteCommandTest() {
+    for (const char* name : {"first", "a", "b"}) add(top(), "core::math::add", name);
+    connect("/first.result", "/a.a");
+    connect("/a.result", "/b.a");
+    Clipboard::setText("");
+    command_.setParentCompound(&graph_, "/");
+  }
+
+  void copy(std::initializer_list<const char*> names) {
+    ORV_v1::CopyCommand command;
+    ASSERT_TRUE(command.setParentCompound(&graph_, "/"));
+    for (const char* name : names) ASSERT_TRUE(command.addSourceNode(name));
+    ASSERT_TRUE(command.doit());
+  }
+
+  ORV_v1::PasteCommand command_;
+};
+
+TEST_F(PasteCommandTest, PastesNodesWithTheWiresAmongThem) {
+  copy({"a", "b"});
+  const std::string before = text();
+  ASSERT_TRUE(command_.doit());
+  EXPECT_TRUE(wired("/a1.result", "/b1.a"));
+  EXPECT_FALSE(port("/a1.a")->hasPeers());
+  expectReversible(command_, before);
+}
+
+TEST_F(PasteCommandTest, PastesValuesMetadataAndWatchPoints) {
+  ORV_v1::ModifyNodePortCommand ports;
+  ports.setPortValues(node("/a"), "b", array({"5"}), false);
+  ports.setPortMetaDataValue(node("/a"), "b", "unit", "m");
+  ASSERT_TRUE(ports.redo());
+  ORV_v1::WatchPointCommand watch;
+  watch.createWatchPoint(handle("/a.result"));
+  ASSERT_TRUE(watch.redo());
+  copy({"a"});
+  ASSERT_TRUE(command_.doit());
+  EXPECT_EQ(values("/a1.b"), Texts{"5"});
+  EXPECT_STREQ(port("/a1.b")->getPortMetaDataValue("unit").toChar(), "m");
+  EXPECT_NE(port("/a1.result")->watchPoint(), nullptr);
+}
+
+TEST_F(PasteCommandTest, CanDuplicateTheConnectionsFromOutside) {
+  copy({"a"});
+  const std::string before = text();
+  command_.duplicateSourceInputConnections(true);
+  ASSERT_TRUE(command_.doit());
+  EXPECT_TRUE(wired("/first.result", "/a1.a"));
+  expectReversible(command_, before);
+}
+
+TEST_F(PasteCommandTest, ConnectionsFromOutsideStayOutInAnotherLevel) {
+  addCompound(top(), "group");
+  copy({"a"});
+  command_.setParentCompound(&graph_, "/group");
+  command_.duplicateSourceInputConnections(true);
+  ASSERT_TRUE(command_.doit());
+  EXPECT_FALSE(port("/group/a.a")->hasPeers());
+}
+
+TEST_F(PasteCommandTest, PastesAnnotations) {
+  const AnnotationRef note(new AnnotationObject(AnnotationKind::Backdrop, "back"));
+  ASSERT_TRUE(edits_.run(InsertAnnotation{{CompoundRef(&top()), note, 0}}));
+  ORV_v1::CopyCommand copying;
+  copying.setParentCompound(&graph_, "/");
+  ASSERT_TRUE(copying.addSourceAnnotation("back"));
+  EXPECT_FALSE(copying.addSourceAnnotation("back"));
+  ASSERT_TRUE(copying.doit());
+  const std::string before = text();
+  ASSERT_TRUE(command_.doit());
+  EXPECT_NE(graph_.findAnnotation("/back1"), nullptr);
+  expectReversible(command_, before);
+}
+
+TEST_F(PasteCommandTest, RefusesAClipboardWithoutAGraph) {
+  const std::string before = text();
+  EXPECT_FALSE(command_.doit());
+  Clipboard::setText("some words");
+  EXPECT_FALSE(command_.doit());
+  EXPECT_EQ(text(), before);
+}
+
+}  // namespace
+}  // namespace orvlib

@@ -1,0 +1,133 @@
+#include "standalone/graph/model/CompoundObject.h"
+
+#include "tests/standalone/graph/GraphFixture.h"
+
+namespace orvlib {
+namespace {
+
+class CompoundObjectTest : public GraphFixture {
+ protected:
+  void lock(CompoundObject& compound, std::string value) {
+    Properties set;
+    set.set("locked", {std::move(value)});
+    ASSERT_TRUE(edits_.run(SetMetadata{CompoundRef(&compound), set}));
+  }
+};
+
+TEST_F(CompoundObjectTest, IsTheInsideOfItsNode) {
+  CompoundObject* group = addCompound(top(), "group");
+  EXPECT_EQ(group->getAsNode().get(), group->node());
+  EXPECT_EQ(group->node()->asCompound().get(), group);
+  EXPECT_STREQ(group->getName(), "group");
+  group->setName("crowd");
+  EXPECT_STREQ(group->node()->getName(), "crowd");
+}
+
+TEST_F(CompoundObjectTest, ListsItsNodesInTheOrderInWhichTheyCame) {
+  CompoundObject* group = addCompound(top(), "group");
+  NodeObject* one = add(*group, "core::math::add", "one");
+  NodeObject* two = add(*group, "core::math::add", "two");
+  ORV_v1::NodeList& nodes = group->getChildNodes();
+  ASSERT_EQ(nodes.size(), 2u);
+  EXPECT_EQ(nodes[0u].get(), one);
+  EXPECT_EQ(nodes["two"].get(), two);
+  EXPECT_TRUE(nodes["three"] == nullptr);
+  EXPECT_TRUE(nodes[static_cast<const char*>(nullptr)] == nullptr);
+  EXPECT_TRUE(nodes[2u] == nullptr);
+}
+
+TEST_F(CompoundObjectTest, IsEditableUnlessItIsLocked) {
+  CompoundObject* group = addCompound(top(), "group");
+  EXPECT_TRUE(group->isEditable());
+  lock(*group, "false");
+  EXPECT_TRUE(group->isEditable());
+  lock(*group, "true");
+  EXPECT_FALSE(group->isEditable());
+}
+
+TEST_F(CompoundObjectTest, IsNotEditableInsideALockedOne) {
+  CompoundObject* group = addCompound(top(), "group");
+  CompoundObject* inner = addCompound(*group, "inner");
+  lock(*group, "true");
+  EXPECT_FALSE(inner->isEditable());
+  EXPECT_TRUE(top().isEditable());
+}
+
+TEST_F(CompoundObjectTest, GetsStatePorts) {
+  CompoundObject* group = addCompound(top(), "group");
+  const TypeRef type = graph_.core().findType("float");
+  ASSERT_TRUE(group->addStatePorts("was", "is", type));
+  ASSERT_EQ(group->compoundInputs().size(), 1u);
+  EXPECT_STREQ(group->compoundInputs()[0u]->getName(), "was");
+  EXPECT_STREQ(group->compoundOutputs()[0u]->getName(), "is");
+  EXPECT_EQ(group->node()->port("was")->statePartner(), group->node()->port("is"));
+}
+
+TEST_F(CompoundObjectTest, GetsNoStatePortsWithoutATypeOrWhenItIsLocked) {
+  CompoundObject* group = addCompound(top(), "group");
+  EXPECT_FALSE(group->addStatePorts("was", "is", TypeRef()));
+  lock(*group, "true");
+  EXPECT_FALSE(group->addStatePorts("was", "is", graph_.core().findType("float")));
+  EXPECT_EQ(group->node()->inputList().count(), 0u);
+}
+
+TEST_F(CompoundObjectTest, LosesAPortGivenByEitherFace) {
+  CompoundObject* group = addCompound(top(), "group");
+  PortObject* in = addPort(*group, PortDirection::Input, "in", "float");
+  PortObject* out = addPort(*group, PortDirection::Output, "out", "float");
+  ASSERT_TRUE(connect(in->twin(), out->twin()));
+  using Handle = ORV_v1::AddRefWrapper<ORV_v1::Port>;
+  EXPECT_TRUE(group->removePort(Handle(in->twin())));
+  EXPECT_EQ(group->inputs().count(), 0u);
+  EXPECT_FALSE(out->twin()->hasPeers());
+  EXPECT_TRUE(group->removePort(Handle(out)));
+  EXPECT_EQ(group->node()->outputList().count(), 0u);
+}
+
+TEST_F(CompoundObjectTest, RefusesToRemoveWhatIsNotItsPort) {
+  CompoundObject* group = addCompound(top(), "group");
+  PortObject* color = addPort(*group, PortDirection::Input, "in", "color3");
+  using Handle = ORV_v1::AddRefWrapper<ORV_v1::Port>;
+  EXPECT_FALSE(top().removePort(Handle(color)));
+  EXPECT_FALSE(group->removePort(Handle(color->child("r"))));
+  EXPECT_FALSE(group->removePort(Handle()));
+}
+
+TEST_F(CompoundObjectTest, LosesAStatePortAndKeepsTheOther) {
+  CompoundObject* group = addCompound(top(), "group");
+  ASSERT_TRUE(group->addStatePorts("was", "is", graph_.core().findType("float")));
+  using Handle = ORV_v1::AddRefWrapper<ORV_v1::Port>;
+  EXPECT_TRUE(group->removePort(Handle(group->node()->port("is"))));
+  EXPECT_EQ(group->node()->port("was")->statePartner(), nullptr);
+}
+
+TEST_F(CompoundObjectTest, OutlivesItsNode) {
+  CompoundRef kept;
+  {
+    const NodeRef node = factory().makeCompound("gone");
+    kept = CompoundRef(node->compound());
+    EXPECT_TRUE(edits_.run(InsertNode{{kept, factory().makeCompound("child"), 0}}));
+    edits_ = Transaction();
+  }
+  EXPECT_TRUE(kept->getAsNode() == nullptr);
+  EXPECT_STREQ(kept->getName(), "");
+  EXPECT_TRUE(kept->isEditable());
+  EXPECT_FALSE(kept->activeChangeBracket());
+}
+
+TEST_F(CompoundObjectTest, CollectsNodesInListsOfACaller) {
+  NodeObject* one = add(top(), "core::math::add", "one");
+  auto list = ORV_v1::NodeList::createNew(nullptr);
+  using Handle = ORV_v1::AddRefWrapper<ORV_v1::Node>;
+  EXPECT_TRUE(list->add(Handle(one)));
+  EXPECT_FALSE(list->add(Handle(one)));
+  EXPECT_FALSE(list->add(Handle()));
+  EXPECT_FALSE(top().getChildNodes().add(Handle(one)));
+  EXPECT_EQ(list->size(), 1u);
+  unsigned int visited = 0;
+  for (const auto& node : *list) visited += node.get() == one;
+  EXPECT_EQ(visited, 1u);
+}
+
+}  // namespace
+}  // namespace orvlib
