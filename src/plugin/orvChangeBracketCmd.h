@@ -15,6 +15,12 @@ class orvChangeBracketCmd : public KPxCommand, public orvBaseCmd {
   KStatus redoIt() override;
   bool isUndoable() const override;
 
+ protected:
+  /// The compound in the container that is the client; empty: the container itself is.
+  KString bracketNodePath;
+  bool closeBracket = false;
+  bool openBracket = false;
+
  private:
   /// What the bracket is opened on, found again for each call.
   struct Target {
@@ -27,9 +33,4 @@ class orvChangeBracketCmd : public KPxCommand, public orvBaseCmd {
 
   /// False, and the user is told, when there is no such container or compound.
   bool findTarget(Target& target) const;
-
-  /// The compound in the container that is the client; empty: the container itself is.
-  KString bracketNodePath;
-  bool closeBracket = false;
-  bool openBracket = false;
 };

@@ -29,8 +29,9 @@ class orvMetadataCmd : public orvBaseCmd {
   void parseNodeMetadata(KStatus& status, const KArgDatabase& db,
                          const ORV_v1::AddRefWrapper<ORV_v1::Node>& node);
 
-  /// The watch point is given by its port: a line may set up metadata for a watch point that it is
-  /// yet to create.
+  /// The watch point goes by the path of its port, and is there or not when the line is read: edits
+  /// for a port without one are recorded, but fail in `redoMetadata`. So a line that creates the
+  /// watch point and sets its metadata fails.
   void parseWatchPointMetadata(KStatus& status, const KArgDatabase& db,
                                const ORV_v1::AddRefWrapper<ORV_v1::Port>& port);
 

@@ -7,6 +7,7 @@
 
 #include "platform/OpenVesk/KMessage.h"
 #include "platform/OpenVesk/KSceneMessage.h"
+#include "platform/OpenVesk/KSelectionList.h"
 #include "standalone/host/engine/HostAccess.h"
 
 namespace {
@@ -15,6 +16,8 @@ std::vector<std::string>& calls() {
   static std::vector<std::string> calls;
   return calls;
 }
+
+bool selectionsAreRefused = false;
 
 void note(const std::string& call) { calls().push_back(call); }
 
@@ -36,6 +39,10 @@ Real hosts(void* own) {
 }  // namespace
 
 std::vector<std::string> takeRecordedCalls() { return std::exchange(calls(), {}); }
+
+RefusedSelections::RefusedSelections() { selectionsAreRefused = true; }
+
+RefusedSelections::~RefusedSelections() { selectionsAreRefused = false; }
 
 VESK_API_OPEN
 
@@ -67,6 +74,12 @@ KStatus KMessage::removeCallback(std::uint64_t id) {
   const KStatus status = hosts<decltype(&removeCallback)>(addressOf(&removeCallback))(id);
   note(status ? "removeCallback" : "removeCallback in vain");
   return status;
+}
+
+KStatus KSelectionList::getDependNode(unsigned int index, KObject& object) const {
+  if (selectionsAreRefused) return StatusFailure;
+  using Real = KStatus (*)(const KSelectionList*, unsigned int, KObject&);
+  return hosts<Real>(addressOf(&KSelectionList::getDependNode))(this, index, object);
 }
 
 VESK_API_CLOSE

@@ -5,8 +5,10 @@
 #include "platform/ORV_1_0/PortTypeLookup.h"
 #include "platform/ORV_1_0/QtConversions.h"
 #include "plugin/pluginMessages.h"
+#include "standalone/graph/model/ContainerObject.h"
 #include "standalone/host/engine/HostAccess.h"
 #include "standalone/host/scene/Scene.h"
+#include "tests/plugin/RecordedCalls.h"
 #include "tests/support/GraphHost.h"
 #include "tests/support/GraphProbeCommand.h"
 #include "tests/support/Latin1Locale.h"
@@ -94,6 +96,18 @@ TEST_F(SharedByCommands, ADeletedNodesContainerIsFoundAgainAfterUndo) {
   EXPECT_EQ(findContainer("g"), nullptr);
   host.run("undo");
   EXPECT_NE(findContainer("g"), nullptr);
+}
+
+TEST_F(SharedByCommands, ANodeThatTheHostDoesNotGiveIsNotLookedForAsAnIdentifier) {
+  Container& graph = host.graph("g");
+  orvlib::ContainerObject other("standard");
+  other.publishUuid("g");
+  {
+    const RefusedSelections refused;
+    EXPECT_EQ(findContainer("g"), nullptr);
+    EXPECT_EQ(findContainer(uuidOf("g").c_str()), &graph);
+  }
+  EXPECT_EQ(findContainer("g"), &graph);
 }
 
 KSyntax oneText() {

@@ -1,8 +1,16 @@
 #include "plugin/orvChangeBracketCmd.h"
 
+#include <algorithm>
+#include <functional>
+
+#include "platform/ORV_1_0/ModifyNodePortCommand.h"
+#include "platform/ORV_1_0/PortList.h"
+#include "platform/ORV_1_0/WatchPoint.h"
 #include "plugin/pluginMessages.h"
+#include "standalone/graph/model/ContainerObject.h"
 #include "standalone/host/engine/HostAccess.h"
 #include "standalone/host/scene/Scene.h"
+#include "tests/support/FailingNew.h"
 #include "tests/support/GraphHost.h"
 #include "tests/support/GraphProbeCommand.h"
 
@@ -27,6 +35,42 @@ class UndoableQuery : public orvChangeBracketCmd {
   bool isUndoable() const override { return true; }
 };
 
+/// Does what its line asks for, takes it back at once, and notes what that made the running result.
+class UndoneAtOnce : public orvChangeBracketCmd {
+ public:
+  static KPxCommand* creator() { return new UndoneAtOnce; }
+
+  KStatus doIt(const KArgList& args) override {
+    if (!orvChangeBracketCmd::doIt(args)) return StatusFailure;
+    clearResult();
+    if (between) between();
+    undoStatus = undoIt().statusCode();
+    undoResult = vesk::toJson(*vesk::HostSession::current()->engine().runningResult());
+    return StatusSuccess;
+  }
+
+  static inline std::function<void()> between;
+  static inline KStatusCode undoStatus = StatusSuccess;
+  static inline std::string undoResult;
+};
+
+/// Counts the rounds of changes that it is told of.
+class RoundCounter final : public orvlib::ChangeListener {
+ public:
+  explicit RoundCounter(Container& graph) : graph_(static_cast<orvlib::ContainerObject&>(graph)) {
+    graph_.addListener(*this);
+  }
+  ~RoundCounter() override { graph_.removeListener(*this); }
+  void graphChanged(orvlib::ContainerObject&, std::span<const orvlib::NodeChange>) override {
+    ++rounds;
+  }
+
+  int rounds = 0;
+
+ private:
+  orvlib::ContainerObject& graph_;
+};
+
 /// A graph "g" with the compound "/group" and the node "/add".
 class ChangeBracketCommand : public testing::Test {
  protected:
@@ -35,6 +79,7 @@ class ChangeBracketCommand : public testing::Test {
     addCommand("orvChangeBracket", orvChangeBracketCmd::creator,
                orvChangeBracketCmd::createSyntax());
     addCommand("undoableQuery", UndoableQuery::creator, orvChangeBracketCmd::createSyntax());
+    addCommand("undoneAtOnce", UndoneAtOnce::creator, orvChangeBracketCmd::createSyntax());
     addCommand("graphProbe", GraphProbeCommand::creator, GraphProbeCommand::createSyntax());
     host.run("graphProbe g \"/\" -create \"group\"; graphProbe g \"/\" -addNode core::math::add");
     host.session().undoQueue().clear();
@@ -50,9 +95,50 @@ class ChangeBracketCommand : public testing::Test {
     return graph.findNodeFromPath(path)->asCompound();
   }
 
+  void setInput(const char* name, const char* value) {
+    ORV_v1::StringArray values;
+    values.add(value);
+    ORV_v1::ModifyNodePortCommand command;
+    EXPECT_TRUE(command.setPortValues(graph.findNodeFromPath("/add"), name, values, false));
+    EXPECT_TRUE(command.redo());
+  }
+
+  /// What the watch point on the result of "/add" has recorded.
+  Texts recorded() {
+    const auto port = graph.findNodeFromPath("/add")->outputs()["result"];
+    ORV_v1::StringArray values;
+    EXPECT_TRUE(port->getWatchPoint()->getRecordedValues("value", values));
+    Texts texts;
+    for (const char* text : values) texts.emplace_back(text);
+    return texts;
+  }
+
   GraphHost host;
   Container& graph;
 };
+
+/// The command, opened.
+struct Fields : orvChangeBracketCmd {
+  using orvBaseCmd::containerName;
+  using orvChangeBracketCmd::bracketNodePath;
+  using orvChangeBracketCmd::closeBracket;
+  using orvChangeBracketCmd::openBracket;
+};
+
+TEST(ChangeBracketLayout, TheHostsBaseComesFirstAndTheFieldsInOrder) {
+  Fields command;
+  EXPECT_EQ(static_cast<void*>(static_cast<KPxCommand*>(&command)), &command);
+  EXPECT_EQ(static_cast<void*>(static_cast<orvBaseCmd*>(&command)), &command.containerName);
+  const std::vector<const void*> parts = {&command, &command.containerName,
+                                          &command.bracketNodePath, &command.closeBracket,
+                                          &command.openBracket};
+  EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end(), std::less<const void*>()));
+}
+
+TEST(ChangeBracketLayout, TheCreatorGivesNullWithoutMemory) {
+  const FailingNew failing;
+  EXPECT_EQ(orvChangeBracketCmd::creator(), nullptr);
+}
 
 TEST_F(ChangeBracketCommand, DeclaresTwoTextsAndTwoFlagsAndNoModes) {
   const KSyntax syntax = orvChangeBracketCmd::createSyntax();
@@ -127,6 +213,35 @@ TEST_F(ChangeBracketCommand, ABracketHoldsAcrossCommands) {
   EXPECT_TRUE(isOpen());
 }
 
+TEST_F(ChangeBracketCommand, WithoutABracketEachLineIsToldByItself) {
+  const RoundCounter listener(graph);
+  host.run("graphProbe g \"/\" -addNode core::math::add");
+  host.run("graphProbe g \"/\" -addNode core::math::add");
+  EXPECT_EQ(listener.rounds, 2);
+}
+
+TEST_F(ChangeBracketCommand, WhatHappensInABracketIsToldOnceWhenItCloses) {
+  for (const char* path : {"", "\"/group\""}) {
+    const RoundCounter listener(graph);
+    host.run(std::string("orvChangeBracket -open g ") + path);
+    host.run("graphProbe g \"/\" -addNode core::math::add");
+    host.run("graphProbe g \"/\" -addNode core::math::add");
+    EXPECT_EQ(listener.rounds, 0) << path;
+    host.run(std::string("orvChangeBracket -close g ") + path);
+    EXPECT_EQ(listener.rounds, 1) << path;
+  }
+}
+
+TEST_F(ChangeBracketCommand, AWatchPointRecordsOnceForABracket) {
+  host.run("graphProbe g \"/add\" -watchPoint result -addWatchPoint");
+  host.run("orvChangeBracket g -open");
+  setInput("a", "1");
+  setInput("b", "2");
+  EXPECT_THAT(recorded(), ElementsAre("0"));
+  host.run("orvChangeBracket g -close");
+  EXPECT_THAT(recorded(), ElementsAre("0", "3"));
+}
+
 TEST_F(ChangeBracketCommand, ARefusalOfTheLibraryIsAResultAndNoFailure) {
   EXPECT_EQ(host.run("orvChangeBracket g -close"), "false");
   EXPECT_THAT(host.takeMessages(), IsEmpty());
@@ -174,6 +289,36 @@ TEST_F(ChangeBracketCommand, UndoOfAQueryFails) {
   EXPECT_THAT(host.refusal("undo"),
               ElementsAre("! undo of \"undoableQuery g\": 1 of 1 edits refused; "
                           "the others were carried out"));
+}
+
+class UndoOfABracket : public ChangeBracketCommand {
+ protected:
+  ~UndoOfABracket() override { UndoneAtOnce::between = nullptr; }
+
+  /// The result that undo gives to a line, once `between` has happened.
+  std::string undo(const char* line, std::function<void()> between = nullptr) {
+    UndoneAtOnce::between = std::move(between);
+    host.run(line);
+    return UndoneAtOnce::undoResult;
+  }
+};
+
+TEST_F(UndoOfABracket, OfAnOpeningTellsWhetherItClosed) {
+  EXPECT_EQ(undo("undoneAtOnce g -open"), "true");
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(undo("undoneAtOnce g -open", [this] { graph.closeChangeBracket(nullptr); }), "false");
+  EXPECT_EQ(UndoneAtOnce::undoStatus, StatusSuccess);
+}
+
+TEST_F(UndoOfABracket, OfAClosingTellsThatItOpened) {
+  EXPECT_EQ(undo("undoneAtOnce g -close"), "true");
+  EXPECT_EQ(UndoneAtOnce::undoStatus, StatusSuccess);
+  EXPECT_TRUE(isOpen());
+}
+
+TEST_F(UndoOfABracket, OfAQueryFailsWithoutAResult) {
+  EXPECT_EQ(undo("undoneAtOnce g"), "");
+  EXPECT_EQ(UndoneAtOnce::undoStatus, StatusFailure);
 }
 
 TEST_F(ChangeBracketCommand, AMissingContainerNameIsToldInTwoLines) {

@@ -10,7 +10,9 @@
 #include "platform/OpenVesk/KPxCommand.h"
 #include "plugin/orvMetadataCmd.h"
 #include "plugin/pluginMessages.h"
+#include "tests/support/FailingNew.h"
 #include "tests/support/GraphHost.h"
+#include "tests/support/GraphProbeCommand.h"
 #include "tests/support/LineReading.h"
 
 namespace {
@@ -79,6 +81,25 @@ TEST_F(MetadataParsing, KeepsItsFieldsInOrder) {
                                            &parts.queryMetadataAsString, &parts.queryMetadataName,
                                            &parts.metadataSourceText};
   EXPECT_TRUE(std::is_sorted(fields.begin(), fields.end(), std::less<const void*>()));
+}
+
+TEST(MetadataCommandBases, TheMetadataBaseComesFirst) {
+  GraphProbeCommand command;
+  const void* first = static_cast<orvMetadataCmd*>(&command);
+  const void* second = static_cast<KPxCommand*>(&command);
+  EXPECT_EQ(first, &command);
+  EXPECT_GT(second, first);
+}
+
+TEST(MetadataCommandBases, TheCreatorGivesTheHostsBase) {
+  KPxCommand* made = GraphProbeCommand::creator();
+  EXPECT_NE(dynamic_cast<GraphProbeCommand*>(made), nullptr);
+  delete made;
+}
+
+TEST(MetadataCommandBases, TheCreatorGivesNullWithoutMemory) {
+  const FailingNew failing;
+  EXPECT_EQ(GraphProbeCommand::creator(), nullptr);
 }
 
 TEST_F(MetadataParsing, OfNoFlagsSucceedsAndRecordsNothing) {

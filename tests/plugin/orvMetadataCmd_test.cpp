@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "platform/ORV_1_0/PortList.h"
 #include "plugin/pluginMessages.h"
 #include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/host/engine/HostAccess.h"
@@ -230,6 +231,14 @@ TEST_F(MetadataRefusals, AnEditOfAMissingWatchPointFailsWithoutAMessage) {
   EXPECT_EQ(host.status("graphProbe g \"/add\" -watchPoint a -setMetaData k v"), StatusFailure);
   EXPECT_EQ(host.status("graphProbe g \"/add\" -watchPoint a -clearMetaData k"), StatusFailure);
   EXPECT_THAT(host.takeMessages(), IsEmpty());
+  EXPECT_THAT(host.steps(), IsEmpty());
+}
+
+TEST_F(MetadataRefusals, AnEditOfAWatchPointThatTheLineIsToCreateFails) {
+  const std::string line = "graphProbe g \"/add\" -watchPoint a -addWatchPoint -setMetaData k v";
+  EXPECT_EQ(host.status(line), StatusFailure);
+  EXPECT_THAT(host.takeMessages(), IsEmpty());
+  EXPECT_FALSE(graph.findNodeFromPath("/add")->inputs()["a"]->getWatchPoint());
   EXPECT_THAT(host.steps(), IsEmpty());
 }
 

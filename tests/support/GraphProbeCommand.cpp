@@ -1,5 +1,7 @@
 #include "tests/support/GraphProbeCommand.h"
 
+#include <new>
+
 #include "platform/ORV_1_0/WatchPoint.h"
 #include "plugin/FlagRow.h"
 #include "plugin/fromUTF8.h"
@@ -17,6 +19,7 @@ constexpr FlagRow kFlags[] = {
     {"-n", "-node"},
     {"-wp", "-watchPoint", KSyntax::ArgString},
     {"-an", "-addNode", KSyntax::ArgString},
+    {"-rn", "-removeNode", KSyntax::ArgString},
     {"-cr", "-create", KSyntax::ArgString},
     {"-aw", "-addWatchPoint"},
 };
@@ -29,7 +32,7 @@ KString flagText(const KArgDatabase& db, const char* flag) {
 
 }  // namespace
 
-KPxCommand* GraphProbeCommand::creator() { return new GraphProbeCommand; }
+KPxCommand* GraphProbeCommand::creator() { return new (std::nothrow) GraphProbeCommand; }
 
 KSyntax GraphProbeCommand::createSyntax() {
   KSyntax syntax;
@@ -83,6 +86,8 @@ void GraphProbeCommand::parseEdits(const KArgDatabase& db, const Subject& subjec
   addsNode_ = db.isFlagSet("-an");
   createsCompound_ = db.isFlagSet("-cr");
   addsWatchPoint_ = db.isFlagSet("-aw");
+  removesNode_ = db.isFlagSet("-rn");
+  if (removesNode_) nodes_.removeNode(subject.compound, flagText(db, "-rn").asUTF8());
   if (addsNode_) nodes_.createNode(subject.compound, flagText(db, "-an").asUTF8(), nullptr);
   if (createsCompound_) {
     compounds_.setParentCompound(subject.container, path_.asUTF8());
@@ -130,7 +135,7 @@ KStatus GraphProbeCommand::redoIt() {
 }
 
 bool GraphProbeCommand::redoEdits() {
-  return (!addsNode_ || nodes_.redo()) && (!createsCompound_ || compounds_.redo()) &&
+  return (!editsNodes() || nodes_.redo()) && (!createsCompound_ || compounds_.redo()) &&
          (!addsWatchPoint_ || watchPoints_.redo());
 }
 
@@ -159,11 +164,11 @@ KStatus GraphProbeCommand::undoIt() {
   const ChangeBracket bracket = openBracket(subject);
   if (addsWatchPoint_) watchPoints_.undo();
   if (createsCompound_) compounds_.undo();
-  if (addsNode_) nodes_.undo();
+  if (editsNodes()) nodes_.undo();
   undoMetadata();
   return StatusSuccess;
 }
 
 bool GraphProbeCommand::isUndoable() const {
-  return addsNode_ || createsCompound_ || addsWatchPoint_ || metadataChanged;
+  return editsNodes() || createsCompound_ || addsWatchPoint_ || metadataChanged;
 }

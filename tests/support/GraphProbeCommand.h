@@ -38,6 +38,7 @@ class GraphProbeCommand : public orvMetadataCmd, public KPxCommand {
   bool findPort(Subject& subject) const;
   ORV_v1::ChangeBracket openBracket(const Subject& subject) const;
 
+  bool editsNodes() const { return addsNode_ || removesNode_; }
   bool redoEdits();
   void showCreated() const;
   void query(const Subject& subject) const;
@@ -51,6 +52,7 @@ class GraphProbeCommand : public orvMetadataCmd, public KPxCommand {
   ORV_v1::CreateCompoundCommand compounds_;
   ORV_v1::WatchPointCommand watchPoints_;
   bool addsNode_ = false;
+  bool removesNode_ = false;
   bool createsCompound_ = false;
   bool addsWatchPoint_ = false;
 };

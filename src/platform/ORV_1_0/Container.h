@@ -46,7 +46,7 @@ class ORV_EXPORT Container : public ChangeBracketClient {
   bool openChangeBracket(ChangeBracketClient* client) const;
   bool closeChangeBracket(ChangeBracketClient* client) const;
 
-  /// The node of the top compound; null if the graph is empty.
+  /// The node of the top compound. Every graph here has one; null is only what a caller allows for.
   virtual AddRefWrapper<Node> getTopNode() = 0;
 
   /// The name of the host's object.

@@ -11,7 +11,8 @@ class Container;
 /// out what is recorded, in that order, all of it or nothing. With nothing recorded it has nothing
 /// to do and is true. False, and nothing changed, when something recorded cannot be done, and for a
 /// second `redo` or `undo` in a row. A referenced or locked compound cannot be exploded, nor one
-/// with a connection through it whose two sides have types that do not convert.
+/// with a connection through it whose two sides have types that do not convert, nor one whose
+/// fan-in port with members leads on to an input that is no fan-in port.
 class ORV_EXPORT ExplodeCompoundCommand {
  public:
   ExplodeCompoundCommand();

@@ -11,7 +11,8 @@ class Container;
 /// Edits the metadata of a compound, a node or a watch point.
 /// Recording changes nothing: `redo` carries out what is recorded, in that order, all of it or
 /// nothing. With nothing recorded it has nothing to do and is true. False, and nothing changed,
-/// when something recorded cannot be done, and for a second `redo` or `undo` in a row.
+/// when something recorded cannot be done, when the object has left the graph, and for a second
+/// `redo` in a row. `undo` takes back what was done, also on an object that has left the graph.
 class ORV_EXPORT MetadataCommand {
  public:
   MetadataCommand();

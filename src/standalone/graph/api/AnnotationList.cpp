@@ -1,5 +1,6 @@
 #include "platform/ORV_1_0/AnnotationList.h"
 
+#include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/graph/model/AnnotationObject.h"
 #include "standalone/graph/model/CompoundObject.h"
 
@@ -9,6 +10,8 @@ namespace {
 using orvlib::AnnotationListObject;
 using orvlib::AnnotationObject;
 using orvlib::ListKind;
+
+orvlib::FaultPoint kAdd("AnnotationList add");
 
 const AnnotationListObject& object(const AnnotationList& list) {
   return static_cast<const AnnotationListObject&>(list);
@@ -26,7 +29,8 @@ AddRefWrapper<AnnotationList> AnnotationList::createNew() {
 bool AnnotationList::add(AddRefWrapper<Annotation> annotation) {
   auto& list = static_cast<AnnotationListObject&>(*this);
   auto* item = static_cast<AnnotationObject*>(annotation.get());
-  if (!item || list.kind() != ListKind::Collected || list.contains(item)) return false;
+  if (kAdd.refuses() || !item) return false;
+  if (list.kind() != ListKind::Collected || list.contains(item)) return false;
   list.append(item);
   return true;
 }

@@ -1,10 +1,15 @@
 #include "platform/ORV_1_0/Container.h"
 
+#include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/graph/model/ContainerObject.h"
 #include "standalone/graph/model/ContainerTable.h"
 
 namespace ORV_v1 {
 namespace {
+
+orvlib::FaultPoint kFindPorts("Container findPortsForConnection");
+orvlib::FaultPoint kOpenBracket("Container openChangeBracket");
+orvlib::FaultPoint kCloseBracket("Container closeChangeBracket");
 
 orvlib::ContainerObject& object(const Container& container) {
   return const_cast<orvlib::ContainerObject&>(
@@ -36,9 +41,10 @@ AddRefWrapper<Annotation> Container::findAnnotationFromPath(const char* path) {
 bool Container::findPortsForConnection(const char* sourcePath, const char* destinationPath,
                                        AddRefWrapper<Port>* source,
                                        AddRefWrapper<Port>* destination) {
+  const bool refused = kFindPorts.refuses();
   if (!source || !destination) return false;
   *source = *destination = AddRefWrapper<Port>();
-  if (!sourcePath || !destinationPath) return false;
+  if (refused || !sourcePath || !destinationPath) return false;
   const auto [from, to] = object(*this).findPair(sourcePath, destinationPath);
   if (!from) return false;
   *source = AddRefWrapper<Port>(from);
@@ -47,11 +53,11 @@ bool Container::findPortsForConnection(const char* sourcePath, const char* desti
 }
 
 bool Container::openChangeBracket(ChangeBracketClient* client) const {
-  return object(*this).openBracket(client);
+  return !kOpenBracket.refuses() && object(*this).openBracket(client);
 }
 
 bool Container::closeChangeBracket(ChangeBracketClient* client) const {
-  return object(*this).closeBracket(client);
+  return !kCloseBracket.refuses() && object(*this).closeBracket(client);
 }
 
 }  // namespace ORV_v1

@@ -1,5 +1,6 @@
 #include "platform/ORV_1_0/NodeList.h"
 
+#include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/graph/model/CompoundObject.h"
 
 namespace ORV_v1 {
@@ -8,6 +9,8 @@ namespace {
 using orvlib::ListKind;
 using orvlib::NodeListObject;
 using orvlib::NodeObject;
+
+orvlib::FaultPoint kAdd("NodeList add");
 
 const NodeListObject& object(const NodeList& list) {
   return static_cast<const NodeListObject&>(list);
@@ -25,7 +28,8 @@ AddRefWrapper<NodeList> NodeList::createNew(Compound*) {
 bool NodeList::add(AddRefWrapper<Node> node) {
   auto& list = static_cast<NodeListObject&>(*this);
   auto* item = static_cast<NodeObject*>(node.get());
-  if (!item || list.kind() != ListKind::Collected || list.contains(item)) return false;
+  if (kAdd.refuses() || !item) return false;
+  if (list.kind() != ListKind::Collected || list.contains(item)) return false;
   list.append(item);
   return true;
 }

@@ -1,5 +1,6 @@
 #include "platform/ORV_1_0/Port.h"
 
+#include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/graph/model/ContainerObject.h"
 #include "standalone/graph/model/PortExtras.h"
 #include "standalone/graph/texts/ValueListText.h"
@@ -7,6 +8,9 @@
 
 namespace ORV_v1 {
 namespace {
+
+orvlib::FaultPoint kGetDefaults("Port getPortDefaultValues");
+orvlib::FaultPoint kUnserialize("Port unserializePortValuesString");
 
 orvlib::PortObject& object(Port& port) { return static_cast<orvlib::PortObject&>(port); }
 
@@ -58,6 +62,7 @@ bool Port::isMemberFanIn() const { return object(*this).kind() == orvlib::PortKi
 bool Port::isCompoundInternalPort() const { return object(*this).isInner(); }
 
 bool Port::getPortDefaultValues(StringArray& values) const {
+  if (kGetDefaults.refuses()) return false;
   const auto value = object(*this).settableValue();
   if (!value) return false;
   GraphAccess::textsOf(values) = orvlib::printValue(*value);
@@ -76,7 +81,7 @@ const AddRefWrapper<WatchPoint>& Port::getWatchPoint() const {
 
 bool Port::unserializePortValuesString(const char* text, StringArray& values,
                                        const AddRefWrapper<PortDataType>& type) {
-  if (!text) return false;
+  if (kUnserialize.refuses() || !text) return false;
   auto read =
       orvlib::readValues(text, type == nullptr ? nullptr : GraphAccess::typeOf(*type).get());
   if (!read) return false;

@@ -1,9 +1,15 @@
 #include "platform/ORV_1_0/PropertyList.h"
 
 #include "standalone/graph/api/GraphAccess.h"
+#include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/graph/texts/PropertiesText.h"
 
 namespace ORV_v1 {
+namespace {
+
+orvlib::FaultPoint kUnserialize("PropertyList unserialize");
+
+}  // namespace
 
 PropertyList::PropertyList() = default;
 PropertyList::PropertyList(const PropertyList& other)
@@ -23,7 +29,7 @@ String PropertyList::serialize(SerializeMode) const {
 }
 
 bool PropertyList::unserialize(const char* text, SerializeMode) {
-  if (!text) return false;
+  if (kUnserialize.refuses() || !text) return false;
   auto properties = orvlib::readProperties(text);
   if (!properties) return false;
   *this = GraphAccess::makePropertyList(std::move(*properties));

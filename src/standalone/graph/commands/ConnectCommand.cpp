@@ -27,6 +27,13 @@ PortObject* connectedInput(const PortObject& source, PortObject& given) {
   if (given.peers().contains(&source)) return &given;
   const PortListObject* members = given.isFanInPort() ? given.madeChildren() : nullptr;
   if (!members) return nullptr;
+  // Either list may be very long.
+  if (source.peers().count() < members->count()) {
+    for (PortObject* peer : source.peers().items()) {
+      if (peer->above() == &given) return peer;
+    }
+    return nullptr;
+  }
   for (PortObject* member : members->items()) {
     if (member->peers().contains(&source)) return member;
   }

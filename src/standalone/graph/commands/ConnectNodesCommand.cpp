@@ -12,6 +12,7 @@ namespace {
 using namespace orvlib;
 
 FaultPoint kConnect("ConnectNodesCommand connect");
+FaultPoint kDoit("ConnectNodesCommand doit");
 FaultPoint kRedo("ConnectNodesCommand redo");
 FaultPoint kUndo("ConnectNodesCommand undo");
 
@@ -82,10 +83,10 @@ bool ConnectNodesCommand::connect(const NodeList& nodes) {
   return true;
 }
 
-bool ConnectNodesCommand::doit() { return redo(); }
+bool ConnectNodesCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool ConnectNodesCommand::redo() {
-  if (rep_->chains.empty()) return true;
+  if (rep_->chains.empty()) return !kRedo.refuses();
   return rep_->command.redo(kRedo, rep_->graph.container(), [this](Transaction& edits) {
     for (const Chain& chain : rep_->chains) {
       if (!runChain(edits, chain)) return false;
@@ -95,7 +96,8 @@ bool ConnectNodesCommand::redo() {
 }
 
 bool ConnectNodesCommand::undo() {
-  return rep_->chains.empty() || rep_->command.undo(kUndo, rep_->graph.container());
+  if (rep_->chains.empty()) return !kUndo.refuses();
+  return rep_->command.undo(kUndo, rep_->graph.container());
 }
 
 }  // namespace ORV_v1

@@ -15,6 +15,7 @@ using namespace orvlib;
 FaultPoint kSetParent("CreateCompoundCommand setParentCompound");
 FaultPoint kAddNode("CreateCompoundCommand addNodeToMove");
 FaultPoint kAddAnnotation("CreateCompoundCommand addAnnotationToMove");
+FaultPoint kDoit("CreateCompoundCommand doit");
 FaultPoint kRedo("CreateCompoundCommand redo");
 FaultPoint kUndo("CreateCompoundCommand undo");
 
@@ -46,7 +47,7 @@ struct CreateCompoundCommand::Rep {
 
   bool run(Transaction& edits) {
     CompoundObject* outside = link.level();
-    if (!outside) return false;
+    if (!outside || outside->depth() >= CompoundObject::kDeepest) return false;
     for (const NodeRef& node : nodes) {
       if (node->parent() != outside) return false;
     }
@@ -97,7 +98,7 @@ String CreateCompoundCommand::getCreatedCompoundPath() const {
   return rep_->command.isDone() ? GraphAccess::makeString(rep_->created->fullPath()) : String();
 }
 
-bool CreateCompoundCommand::doit() { return redo(); }
+bool CreateCompoundCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool CreateCompoundCommand::redo() {
   return rep_->command.redo(kRedo, rep_->link.container(),

@@ -12,6 +12,7 @@ using namespace orvlib;
 
 FaultPoint kSetParent("ExplodeCompoundCommand setParentCompound");
 FaultPoint kAddCompound("ExplodeCompoundCommand addCompoundToExplode");
+FaultPoint kDoit("ExplodeCompoundCommand doit");
 FaultPoint kRedo("ExplodeCompoundCommand redo");
 FaultPoint kUndo("ExplodeCompoundCommand undo");
 
@@ -60,16 +61,17 @@ const char* ExplodeCompoundCommand::getCreatedNodeName(unsigned int index) const
   return index < getCreatedNodeCount() ? rep_->created[index]->getName() : "";
 }
 
-bool ExplodeCompoundCommand::doit() { return redo(); }
+bool ExplodeCompoundCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool ExplodeCompoundCommand::redo() {
-  if (rep_->compounds.empty()) return true;
+  if (rep_->compounds.empty()) return !kRedo.refuses();
   return rep_->command.redo(kRedo, rep_->link.container(),
                             [this](Transaction& edits) { return rep_->run(edits); });
 }
 
 bool ExplodeCompoundCommand::undo() {
-  return rep_->compounds.empty() || rep_->command.undo(kUndo, rep_->link.container());
+  if (rep_->compounds.empty()) return !kUndo.refuses();
+  return rep_->command.undo(kUndo, rep_->link.container());
 }
 
 }  // namespace ORV_v1

@@ -11,8 +11,15 @@ namespace {
 
 using namespace orvlib;
 
-FaultPoint kSetParent("MetadataCommand setParent");
-FaultPoint kRecord("MetadataCommand record");
+FaultPoint kSetCompound("MetadataCommand setParentCompound");
+FaultPoint kSetNode("MetadataCommand setParentNode");
+FaultPoint kSetWatchPoint("MetadataCommand setParentWatchPoint");
+FaultPoint kSet("MetadataCommand setMetadata");
+FaultPoint kAdd("MetadataCommand addMetadata");
+FaultPoint kRemove("MetadataCommand removeMetadata");
+FaultPoint kClear("MetadataCommand clearMetadata");
+FaultPoint kSetAll("MetadataCommand setFromPropertyList");
+FaultPoint kDoit("MetadataCommand doit");
 FaultPoint kRedo("MetadataCommand redo");
 FaultPoint kUndo("MetadataCommand undo");
 
@@ -68,11 +75,20 @@ WatchPointObject* findWatchPoint(const ContainerObject& graph, const char* path)
   return nullptr;
 }
 
+using Owner = std::variant<NodeRef, CompoundRef, WatchPointRef>;
+
+// The node that the metadata is at; null when there is none any more.
+const NodeObject* nodeOf(const NodeObject& node) { return &node; }
+const NodeObject* nodeOf(const CompoundObject& compound) { return compound.node(); }
+const NodeObject* nodeOf(const WatchPointObject& watched) {
+  return watched.port() ? watched.port()->node() : nullptr;
+}
+
 }  // namespace
 
 struct MetadataCommand::Rep {
   GraphLink graph;
-  std::optional<SetMetadata::Owner> owner;
+  std::optional<Owner> owner;
   absl::InlinedVector<Request, 1> requests;
   RecordedCommand command;
 
@@ -80,7 +96,7 @@ struct MetadataCommand::Rep {
   template <class Find>
   bool bind(Container* container, const char* path, Find find) {
     auto* given = static_cast<ContainerObject*>(container);
-    if (kSetParent.refuses() || !given || !path || command.isBuilt()) return false;
+    if (!given || !path || command.isBuilt()) return false;
     auto* found = find(*given, path);
     if (!found) return false;
     graph.bind(*given);
@@ -89,19 +105,26 @@ struct MetadataCommand::Rep {
   }
 
   bool record(const char* key, Request request) {
-    if (kRecord.refuses() || !isKey(key) || command.isBuilt()) return false;
+    if (!isKey(key) || command.isBuilt()) return false;
     requests.push_back(std::move(request));
     return true;
   }
 
-  bool run(Transaction& edits) {
+  /// Whether the object is in the graph that it was found in. It may have left since.
+  bool isOwnerThere() const {
     if (!owner) return false;
+    const NodeObject* node = std::visit([](const auto& found) { return nodeOf(*found); }, *owner);
+    return node && node->container() && node->container() == graph.container();
+  }
+
+  bool run(Transaction& edits) {
     const auto setOf = [](const auto& object) { return object->metadata(); };
     Properties set = std::visit(setOf, *owner);
     for (const Request& request : requests) {
       std::visit([&set](const auto& one) { one.change(set); }, request);
     }
-    return edits.run(SetMetadata{*owner, std::move(set)});
+    const auto toEdit = [](const auto& found) -> SetMetadata::Owner { return found; };
+    return edits.run(SetMetadata{std::visit(toEdit, *owner), std::move(set)});
   }
 };
 
@@ -109,47 +132,50 @@ MetadataCommand::MetadataCommand() : rep_(new Rep) {}
 MetadataCommand::~MetadataCommand() { delete rep_; }
 
 bool MetadataCommand::setParentCompound(Container* container, const char* path) {
-  return rep_->bind(container, path, [](const ContainerObject& graph, const char* text) {
-    return graph.findCompound(text);
-  });
+  return !kSetCompound.refuses() &&
+         rep_->bind(container, path, [](const ContainerObject& graph, const char* text) {
+           return graph.findCompound(text);
+         });
 }
 
 bool MetadataCommand::setParentNode(Container* container, const char* path) {
-  return rep_->bind(container, path, [](const ContainerObject& graph, const char* text) {
-    return graph.findNode(text);
-  });
+  return !kSetNode.refuses() &&
+         rep_->bind(container, path, [](const ContainerObject& graph, const char* text) {
+           return graph.findNode(text);
+         });
 }
 
 bool MetadataCommand::setParentWatchPoint(Container* container, const char* path) {
-  return rep_->bind(container, path, findWatchPoint);
+  return !kSetWatchPoint.refuses() && rep_->bind(container, path, findWatchPoint);
 }
 
 bool MetadataCommand::setMetadata(const char* key, const StringArray& values) {
-  return rep_->record(key, SetKey{textOf(key), GraphAccess::textsOf(values)});
+  return !kSet.refuses() && rep_->record(key, SetKey{textOf(key), GraphAccess::textsOf(values)});
 }
 
 bool MetadataCommand::addMetadata(const char* key, const char* value) {
-  return rep_->record(key, AddValue{textOf(key), textOf(value)});
+  return !kAdd.refuses() && rep_->record(key, AddValue{textOf(key), textOf(value)});
 }
 
 bool MetadataCommand::removeMetadata(const char* key, const char* value) {
-  return rep_->record(key, RemoveValue{textOf(key), textOf(value)});
+  return !kRemove.refuses() && rep_->record(key, RemoveValue{textOf(key), textOf(value)});
 }
 
 bool MetadataCommand::clearMetadata(const char* key) {
-  return rep_->record(key, ClearKey{textOf(key)});
+  return !kClear.refuses() && rep_->record(key, ClearKey{textOf(key)});
 }
 
 bool MetadataCommand::setFromPropertyList(const PropertyList& properties) {
-  if (kRecord.refuses() || rep_->command.isBuilt()) return false;
+  if (kSetAll.refuses() || rep_->command.isBuilt()) return false;
   rep_->requests.push_back(ReplaceAll{GraphAccess::propertiesOf(properties)});
   return true;
 }
 
-bool MetadataCommand::doit() { return redo(); }
+bool MetadataCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool MetadataCommand::redo() {
-  if (rep_->requests.empty()) return true;
+  if (rep_->requests.empty()) return !kRedo.refuses();
+  if (!rep_->isOwnerThere()) return false;
   return rep_->command.redo(kRedo, rep_->graph.container(),
                             [this](Transaction& edits) { return rep_->run(edits); });
 }

@@ -11,7 +11,12 @@ namespace {
 using namespace orvlib;
 
 FaultPoint kSetParent("ModifyCompoundAnnotationCommand setParentCompound");
-FaultPoint kRecord("ModifyCompoundAnnotationCommand record");
+FaultPoint kBackdrop("ModifyCompoundAnnotationCommand createBackdrop");
+FaultPoint kNote("ModifyCompoundAnnotationCommand createStickyNote");
+FaultPoint kDelete("ModifyCompoundAnnotationCommand deleteAnnotation");
+FaultPoint kRename("ModifyCompoundAnnotationCommand renameAnnotation");
+FaultPoint kSetMetadata("ModifyCompoundAnnotationCommand setAnnotationMetaDataValue");
+FaultPoint kDoit("ModifyCompoundAnnotationCommand doit");
 FaultPoint kRedo("ModifyCompoundAnnotationCommand redo");
 FaultPoint kUndo("ModifyCompoundAnnotationCommand undo");
 
@@ -81,7 +86,7 @@ struct ModifyCompoundAnnotationCommand::Rep {
   absl::InlinedVector<Request, 1> requests;
   RecordedCommand command;
 
-  bool canRecord() const { return !kRecord.refuses() && !command.isBuilt(); }
+  bool canRecord(const FaultPoint& fault) const { return !fault.refuses() && !command.isBuilt(); }
 
   bool record(Request request) {
     requests.push_back(std::move(request));
@@ -97,33 +102,34 @@ bool ModifyCompoundAnnotationCommand::setParentCompound(Container* container, co
 }
 
 bool ModifyCompoundAnnotationCommand::createBackdrop(const char* name) {
-  if (!rep_->canRecord()) return false;
+  if (!rep_->canRecord(kBackdrop)) return false;
   return rep_->record(NewAnnotation{AnnotationKind::Backdrop, isText(name) ? name : kBackdropName});
 }
 
 bool ModifyCompoundAnnotationCommand::createStickyNote() {
-  return rep_->canRecord() && rep_->record(NewAnnotation{AnnotationKind::StickyNote, kNoteName});
+  return rep_->canRecord(kNote) &&
+         rep_->record(NewAnnotation{AnnotationKind::StickyNote, kNoteName});
 }
 
 bool ModifyCompoundAnnotationCommand::deleteAnnotation(const char* name) {
-  return rep_->canRecord() && isText(name) && rep_->record(GoneAnnotation{name});
+  return rep_->canRecord(kDelete) && isText(name) && rep_->record(GoneAnnotation{name});
 }
 
 bool ModifyCompoundAnnotationCommand::renameAnnotation(const char* name, const char* newName) {
-  if (!rep_->canRecord() || !isText(name) || !isText(newName)) return false;
+  if (!rep_->canRecord(kRename) || !isText(name) || !isText(newName)) return false;
   return rep_->record(NewName{name, newName});
 }
 
 bool ModifyCompoundAnnotationCommand::setAnnotationMetaDataValue(const char* name, const char* key,
                                                                  const char* value) {
-  if (!rep_->canRecord() || !isText(name) || !isText(key)) return false;
+  if (!rep_->canRecord(kSetMetadata) || !isText(name) || !isText(key)) return false;
   return rep_->record(NewMetadata{name, key, value ? value : ""});
 }
 
-bool ModifyCompoundAnnotationCommand::doit() { return redo(); }
+bool ModifyCompoundAnnotationCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool ModifyCompoundAnnotationCommand::redo() {
-  if (rep_->requests.empty()) return true;
+  if (rep_->requests.empty()) return !kRedo.refuses();
   return rep_->command.redo(kRedo, rep_->link.container(), [this](Transaction& edits) {
     CompoundObject* level = rep_->link.level();
     if (!level) return false;

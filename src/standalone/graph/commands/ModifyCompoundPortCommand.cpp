@@ -9,6 +9,16 @@ namespace {
 using namespace orvlib;
 
 FaultPoint kSetParent("ModifyCompoundPortCommand setParentCompound");
+FaultPoint kCreatePort("ModifyCompoundPortCommand createPort");
+FaultPoint kRenamePort("ModifyCompoundPortCommand renamePort");
+FaultPoint kMovePort("ModifyCompoundPortCommand movePort");
+FaultPoint kHidePort("ModifyCompoundPortCommand hidePort");
+FaultPoint kSetType("ModifyCompoundPortCommand setPortDataType");
+FaultPoint kSetMetadata("ModifyCompoundPortCommand setPortMetaDataValue");
+FaultPoint kDeletePort("ModifyCompoundPortCommand deletePort");
+FaultPoint kSetValues("ModifyCompoundPortCommand setPortValues");
+FaultPoint kResetValues("ModifyCompoundPortCommand resetPortValues");
+FaultPoint kDoit("ModifyCompoundPortCommand doit");
 FaultPoint kRedo("ModifyCompoundPortCommand redo");
 FaultPoint kUndo("ModifyCompoundPortCommand undo");
 
@@ -43,49 +53,50 @@ bool ModifyCompoundPortCommand::setParentCompound(Container* container, const ch
 
 bool ModifyCompoundPortCommand::createPort(PortIOType direction, const char* name, const char* type,
                                            const PortProperties& properties) {
-  return rep_->edits.make(rep_->node(), static_cast<PortDirection>(direction), name, type,
+  return !kCreatePort.refuses() &&
+         rep_->edits.make(rep_->node(), static_cast<PortDirection>(direction), name, type,
                           properties);
 }
 
 bool ModifyCompoundPortCommand::renamePort(const char* name, const char* newName) {
-  return rep_->edits.rename(rep_->node(), name, newName);
+  return !kRenamePort.refuses() && rep_->edits.rename(rep_->node(), name, newName);
 }
 
 bool ModifyCompoundPortCommand::movePort(const char* name, unsigned int position) {
-  return rep_->edits.move(rep_->node(), name, position);
+  return !kMovePort.refuses() && rep_->edits.move(rep_->node(), name, position);
 }
 
 bool ModifyCompoundPortCommand::movePort(const char* name, const char* ioNode) {
-  return rep_->edits.show(rep_->node(), name, ioNode);
+  return !kMovePort.refuses() && rep_->edits.show(rep_->node(), name, ioNode);
 }
 
 bool ModifyCompoundPortCommand::hidePort(const char* name, bool hidden) {
-  return rep_->edits.setFlags(rep_->node(), name, kPortHidden, hidden);
+  return !kHidePort.refuses() && rep_->edits.setFlags(rep_->node(), name, kPortHidden, hidden);
 }
 
 bool ModifyCompoundPortCommand::setPortDataType(const char* name, const char* type) {
-  return rep_->edits.setType(rep_->node(), name, type);
+  return !kSetType.refuses() && rep_->edits.setType(rep_->node(), name, type);
 }
 
 bool ModifyCompoundPortCommand::setPortMetaDataValue(const char* name, const char* key,
                                                      const char* value) {
-  return rep_->edits.setMetadata(rep_->node(), name, key, value);
+  return !kSetMetadata.refuses() && rep_->edits.setMetadata(rep_->node(), name, key, value);
 }
 
 bool ModifyCompoundPortCommand::deletePort(const char* name) {
-  return rep_->edits.remove(rep_->node(), name);
+  return !kDeletePort.refuses() && rep_->edits.remove(rep_->node(), name);
 }
 
 bool ModifyCompoundPortCommand::setPortValues(const char* name, const StringArray& values,
                                               bool interactive) {
-  return rep_->edits.setValues(rep_->node(), name, values, interactive);
+  return !kSetValues.refuses() && rep_->edits.setValues(rep_->node(), name, values, interactive);
 }
 
 bool ModifyCompoundPortCommand::resetPortValues(const char* name) {
-  return rep_->edits.resetValues(rep_->node(), name);
+  return !kResetValues.refuses() && rep_->edits.resetValues(rep_->node(), name);
 }
 
-bool ModifyCompoundPortCommand::doit() { return redo(); }
+bool ModifyCompoundPortCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool ModifyCompoundPortCommand::redo() { return rep_->edits.redo(kRedo); }
 

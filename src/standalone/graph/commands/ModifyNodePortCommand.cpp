@@ -7,6 +7,14 @@ namespace {
 
 using namespace orvlib;
 
+FaultPoint kCreatePort("ModifyNodePortCommand createPort");
+FaultPoint kDeletePort("ModifyNodePortCommand deletePort");
+FaultPoint kSetValues("ModifyNodePortCommand setPortValues");
+FaultPoint kResetValues("ModifyNodePortCommand resetPortValues");
+FaultPoint kSetType("ModifyNodePortCommand setPortType");
+FaultPoint kSetMetadata("ModifyNodePortCommand setPortMetaDataValue");
+FaultPoint kHandleFlags("ModifyNodePortCommand handlePortFlags");
+FaultPoint kDoit("ModifyNodePortCommand doit");
 FaultPoint kRedo("ModifyNodePortCommand redo");
 FaultPoint kUndo("ModifyNodePortCommand undo");
 
@@ -32,31 +40,32 @@ ModifyNodePortCommand::~ModifyNodePortCommand() { delete rep_; }
 bool ModifyNodePortCommand::createPort(const AddRefWrapper<Node>& node, PortIOType direction,
                                        const char* name, const char* type,
                                        const PortProperties& properties) {
-  return rep_->edits.make(object(node), static_cast<PortDirection>(direction), name, type,
+  return !kCreatePort.refuses() &&
+         rep_->edits.make(object(node), static_cast<PortDirection>(direction), name, type,
                           properties);
 }
 
 bool ModifyNodePortCommand::deletePort(const AddRefWrapper<Node>& node, const char* name) {
-  return rep_->edits.remove(object(node), name);
+  return !kDeletePort.refuses() && rep_->edits.remove(object(node), name);
 }
 
 bool ModifyNodePortCommand::setPortValues(const AddRefWrapper<Node>& node, const char* name,
                                           const StringArray& values, bool interactive) {
-  return rep_->edits.setValues(object(node), name, values, interactive);
+  return !kSetValues.refuses() && rep_->edits.setValues(object(node), name, values, interactive);
 }
 
 bool ModifyNodePortCommand::resetPortValues(const AddRefWrapper<Node>& node, const char* name) {
-  return rep_->edits.resetValues(object(node), name);
+  return !kResetValues.refuses() && rep_->edits.resetValues(object(node), name);
 }
 
 bool ModifyNodePortCommand::setPortType(const AddRefWrapper<Node>& node, const char* name,
                                         const char* type) {
-  return rep_->edits.setType(object(node), name, type);
+  return !kSetType.refuses() && rep_->edits.setType(object(node), name, type);
 }
 
 bool ModifyNodePortCommand::setPortMetaDataValue(const AddRefWrapper<Node>& node, const char* name,
                                                  const char* key, const char* value) {
-  return rep_->edits.setMetadata(object(node), name, key, value);
+  return !kSetMetadata.refuses() && rep_->edits.setMetadata(object(node), name, key, value);
 }
 
 bool ModifyNodePortCommand::handlePortFlags(const AddRefWrapper<Port>& port,
@@ -65,11 +74,11 @@ bool ModifyNodePortCommand::handlePortFlags(const AddRefWrapper<Port>& port,
                                             QueryPortFlags operation) {
   auto* given = static_cast<PortObject*>(port.get());
   const bool on = operation == QueryPortFlags::kSet;
-  if (!on && operation != QueryPortFlags::kClear) return false;
+  if (kHandleFlags.refuses() || (!on && operation != QueryPortFlags::kClear)) return false;
   return given && isFoundBy(*given, ioType, mode) && rep_->edits.setFlags(given, flags, on);
 }
 
-bool ModifyNodePortCommand::doit() { return redo(); }
+bool ModifyNodePortCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool ModifyNodePortCommand::redo() { return rep_->edits.redo(kRedo); }
 

@@ -15,6 +15,7 @@ using namespace orvlib;
 FaultPoint kCreateNode("NodeCommand createNode");
 FaultPoint kCreateIoNode("NodeCommand createIONode");
 FaultPoint kRemoveNode("NodeCommand removeNode");
+FaultPoint kDoit("NodeCommand doit");
 FaultPoint kRedo("NodeCommand redo");
 FaultPoint kUndo("NodeCommand undo");
 
@@ -100,8 +101,8 @@ NodeCommand::~NodeCommand() { delete rep_; }
 
 bool NodeCommand::createNode(const AddRefWrapper<Compound>& compound, const char* type,
                              const char* connectTo) {
-  CompoundObject* level = rep_->level(compound);
-  if (kCreateNode.refuses() || !level || !type) return false;
+  CompoundObject* level = kCreateNode.refuses() ? nullptr : rep_->level(compound);
+  if (!level || !type) return false;
   NodeObject::DefinitionRef definition = level->node()->core().findDefinition(type);
   if (definition == nullptr) return false;
   rep_->requests.push_back(NewNode{CompoundRef(level), std::move(definition), textOf(connectTo)});
@@ -110,25 +111,25 @@ bool NodeCommand::createNode(const AddRefWrapper<Compound>& compound, const char
 
 bool NodeCommand::createIONode(const AddRefWrapper<Compound>& compound, NodeFlags kind,
                                const char* connectTo) {
-  CompoundObject* level = rep_->level(compound);
+  CompoundObject* level = kCreateIoNode.refuses() ? nullptr : rep_->level(compound);
   const bool known = kind == NodeFlags::kInputNode || kind == NodeFlags::kOutputNode;
-  if (kCreateIoNode.refuses() || !level || !known) return false;
+  if (!level || !known) return false;
   const NodeKind nodeKind = kind == NodeFlags::kInputNode ? NodeKind::Input : NodeKind::Output;
   rep_->requests.push_back(NewIoNode{CompoundRef(level), nodeKind, textOf(connectTo)});
   return true;
 }
 
 bool NodeCommand::removeNode(const AddRefWrapper<Compound>& compound, const char* name) {
-  CompoundObject* level = rep_->level(compound);
-  if (kRemoveNode.refuses() || !level || !name || !level->nodes().find(name)) return false;
+  CompoundObject* level = kRemoveNode.refuses() ? nullptr : rep_->level(compound);
+  if (!level || !name || !level->nodes().find(name)) return false;
   rep_->requests.push_back(GoneNode{CompoundRef(level), name});
   return true;
 }
 
-bool NodeCommand::doit() { return redo(); }
+bool NodeCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool NodeCommand::redo() {
-  if (rep_->requests.empty()) return true;
+  if (rep_->requests.empty()) return !kRedo.refuses();
   return rep_->command.redo(kRedo, rep_->graph.container(), [this](Transaction& edits) {
     rep_->created.clear();
     for (const Request& request : rep_->requests) {
@@ -140,7 +141,8 @@ bool NodeCommand::redo() {
 }
 
 bool NodeCommand::undo() {
-  return rep_->requests.empty() || rep_->command.undo(kUndo, rep_->graph.container());
+  if (rep_->requests.empty()) return !kUndo.refuses();
+  return rep_->command.undo(kUndo, rep_->graph.container());
 }
 
 StringArray NodeCommand::getCreatedNodeNames() const {

@@ -12,6 +12,7 @@ namespace {
 using namespace orvlib;
 
 FaultPoint kSetParent("PasteCommand setParentCompound");
+FaultPoint kDoit("PasteCommand doit");
 FaultPoint kRedo("PasteCommand redo");
 FaultPoint kUndo("PasteCommand undo");
 
@@ -82,7 +83,7 @@ struct PasteCommand::Rep {
 
   bool run(Transaction& edits) {
     CompoundObject* level = link.level();
-    if (!level) return false;
+    if (!level || level->depth() >= CompoundObject::kDeepest) return false;
     selection = Selection();
     if (readSelection(Clipboard::text(), level->node()->core(), selection)) return false;
     CompoundObject& carrier = *selection.carrier->compound();
@@ -103,7 +104,7 @@ void PasteCommand::duplicateSourceInputConnections(bool duplicate) {
   rep_->duplicatesInputs = duplicate;
 }
 
-bool PasteCommand::doit() { return redo(); }
+bool PasteCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool PasteCommand::redo() {
   return rep_->command.redo(kRedo, rep_->link.container(),

@@ -9,13 +9,14 @@
 namespace orvlib {
 
 bool PortEdits::redo(const FaultPoint& fault) {
-  if (requests_.empty()) return true;
+  if (requests_.empty()) return !fault.refuses();
   return command_.redo(fault, graph_.container(),
                        [this](Transaction& edits) { return run(edits); });
 }
 
 bool PortEdits::undo(const FaultPoint& fault) {
-  return requests_.empty() || command_.undo(fault, graph_.container());
+  if (requests_.empty()) return !fault.refuses();
+  return command_.undo(fault, graph_.container());
 }
 
 bool PortEdits::run(Transaction& edits) {

@@ -91,12 +91,13 @@ bool PortPlan::descend(NodeObject& node, std::string_view top, std::string_view 
 }
 
 std::string PortPlan::uniqueName(NodeObject& node, const std::string& above,
-                                 std::string_view wanted) const {
+                                 std::string_view wanted) {
   const std::string clean = cleanName(wanted);
+  if (planned_.empty() && above.empty()) return node.uniquePortName(clean);
   View view;
   if (!find(node, above + clean, view)) return clean;
   const std::string base = numberedName(clean).base;
-  std::uint64_t number = 1;
+  std::uint64_t& number = nextNumbers_.try_emplace(Key(&node, above + base), 1).first->second;
   while (find(node, above + base + std::to_string(number), view)) ++number;
   return base + std::to_string(number);
 }
@@ -108,11 +109,13 @@ void PortPlan::make(NodeObject& node, const std::string& path, View view) {
 void PortPlan::rename(NodeObject& node, const std::string& path, const std::string& newPath) {
   View view;
   if (!find(node, path, view)) return;
+  nextNumbers_.clear();
   planned_[Key(&node, path)] = nullptr;
   planned_[Key(&node, newPath)] = std::make_unique<View>(std::move(view));
 }
 
 void PortPlan::remove(NodeObject& node, const std::string& path) {
+  nextNumbers_.clear();
   planned_[Key(&node, path)] = nullptr;
 }
 

@@ -42,7 +42,7 @@ class PortPlan {
 
   /// The name that a port gets which asks for `wanted`; `above` is the path of a fan-in port, with
   /// a dot at its end, or empty.
-  std::string uniqueName(NodeObject& node, const std::string& above, std::string_view wanted) const;
+  std::string uniqueName(NodeObject& node, const std::string& above, std::string_view wanted);
 
   // What requests change. A path is that of a top-level port or of a member.
   void make(NodeObject& node, const std::string& path, View view);
@@ -59,6 +59,9 @@ class PortPlan {
 
   /// Null for what is gone.
   absl::flat_hash_map<Key, std::unique_ptr<View>> planned_;
+
+  /// For a base that clashed: all lower numbers are taken. Forgotten when a name becomes free.
+  absl::flat_hash_map<Key, std::uint64_t> nextNumbers_;
 };
 
 }  // namespace orvlib

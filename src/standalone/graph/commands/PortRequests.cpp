@@ -11,8 +11,6 @@ namespace {
 
 using ORV_v1::GraphAccess;
 
-FaultPoint kRecord("PortEdits record");
-
 bool isText(const char* text) { return text && *text; }
 
 std::optional<Value> valueOf(const TypeRef& type, const ORV_v1::StringArray& texts) {
@@ -25,7 +23,7 @@ bool takesPorts(const NodeObject& node) { return node.hasOwnPorts() || node.comp
 }  // namespace
 
 bool PortEdits::accepts(NodeObject* node) {
-  if (kRecord.refuses() || !node || command_.isBuilt()) return false;
+  if (!node || command_.isBuilt()) return false;
   return graph_.bindOrKeep(node->container());
 }
 

@@ -102,14 +102,11 @@ bool runBreakUnfit(Transaction& edits, PortObject& face, const ValueType& type) 
   return true;
 }
 
-bool runConvertValue(Transaction& edits, PortObject& port, const ValueType& type) {
+/// The value of the port as one of another type; null for the default.
+std::unique_ptr<const Value> convertedValue(const PortObject& port, const ValueType& type) {
   const ValueType& former = port.valueType();
-  if (!port.ownValue() || hasSameLayout(former, type)) return true;
-  std::unique_ptr<const Value> value;
-  if (canConvert(former, type)) {
-    value = std::make_unique<const Value>(convert(*port.ownValue(), former, type));
-  }
-  return runSetOwnValue(edits, port, std::move(value));
+  if (!port.ownValue() || !canConvert(former, type)) return nullptr;
+  return std::make_unique<const Value>(convert(*port.ownValue(), former, type));
 }
 
 bool runSetOneType(Transaction& edits, PortObject& port, const TypeRef& type) {
@@ -125,8 +122,8 @@ bool runSetOneType(Transaction& edits, PortObject& port, const TypeRef& type) {
   for (const ChildWire& wire : wires) {
     if (!runBreakWire(edits, *wire.child, *wire.peer)) return false;
   }
-  if (!runDropMembers(edits, port) || !runConvertValue(edits, port, *valueType)) return false;
-  if (!edits.run(SetPortType(PortRef(&port), type))) return false;
+  if (!runDropMembers(edits, port)) return false;
+  if (!edits.run(SetPortType(PortRef(&port), type, convertedValue(port, *valueType)))) return false;
   for (const ChildWire& wire : wires) {
     if (!runRestore(edits, wire)) return false;
   }

@@ -12,7 +12,10 @@ namespace {
 
 using namespace orvlib;
 
-FaultPoint kRecord("WatchPointCommand record");
+FaultPoint kCreate("WatchPointCommand createWatchPoint");
+FaultPoint kRemove("WatchPointCommand removeWatchPoint");
+FaultPoint kEnable("WatchPointCommand enableWatchPoint");
+FaultPoint kSetParameter("WatchPointCommand setWatchPointParameter");
 FaultPoint kRedo("WatchPointCommand redo");
 FaultPoint kUndo("WatchPointCommand undo");
 
@@ -69,9 +72,9 @@ struct WatchPointCommand::Rep {
   RecordedCommand command;
 
   /// The port, when it is one of the graph and has a watch point, or has none, as `with` says.
-  PortObject* port(const AddRefWrapper<Port>& given, bool with) {
+  PortObject* port(const FaultPoint& fault, const AddRefWrapper<Port>& given, bool with) {
     auto* found = static_cast<PortObject*>(given.get());
-    if (kRecord.refuses() || !found || !found->node() || command.isBuilt()) return nullptr;
+    if (fault.refuses() || !found || !found->node() || command.isBuilt()) return nullptr;
     const auto entry = planned.find(found);
     const bool has = entry == planned.end() ? found->watchPoint() != nullptr : entry->second;
     return has == with && graph.bindOrKeep(found->node()->container()) ? found : nullptr;
@@ -89,15 +92,15 @@ WatchPointCommand::WatchPointCommand() : rep_(new Rep) {}
 WatchPointCommand::~WatchPointCommand() { delete rep_; }
 
 bool WatchPointCommand::createWatchPoint(const AddRefWrapper<Port>& port) {
-  return rep_->recordPresence(rep_->port(port, false), true);
+  return rep_->recordPresence(rep_->port(kCreate, port, false), true);
 }
 
 bool WatchPointCommand::removeWatchPoint(const AddRefWrapper<Port>& port) {
-  return rep_->recordPresence(rep_->port(port, true), false);
+  return rep_->recordPresence(rep_->port(kRemove, port, true), false);
 }
 
 bool WatchPointCommand::enableWatchPoint(const AddRefWrapper<Port>& port, bool enabled) {
-  PortObject* found = rep_->port(port, true);
+  PortObject* found = rep_->port(kEnable, port, true);
   if (!found) return false;
   rep_->requests.push_back({PortRef(found), Enabling{enabled}});
   return true;
@@ -105,14 +108,14 @@ bool WatchPointCommand::enableWatchPoint(const AddRefWrapper<Port>& port, bool e
 
 bool WatchPointCommand::setWatchPointParameter(const AddRefWrapper<Port>& port, const char* name,
                                                const char* value) {
-  PortObject* found = rep_->port(port, true);
+  PortObject* found = rep_->port(kSetParameter, port, true);
   if (!found || !name || !value || !WatchPointSetup().set(name, value)) return false;
   rep_->requests.push_back({PortRef(found), Parameter{name, value}});
   return true;
 }
 
 bool WatchPointCommand::redo() {
-  if (rep_->requests.empty()) return true;
+  if (rep_->requests.empty()) return !kRedo.refuses();
   return rep_->command.redo(kRedo, rep_->graph.container(), [this](Transaction& edits) {
     for (const Request& request : rep_->requests) {
       const auto runOne = [&](const auto& what) { return run(edits, *request.port, what); };

@@ -5,16 +5,7 @@
 namespace orvlib {
 namespace {
 
-bool hasWiresBelow(const PortObject& port) {
-  const PortListObject* children = port.madeChildren();
-  if (!children) return false;
-  for (const PortObject* child : children->items()) {
-    if (child->hasPeers() || hasWiresBelow(*child)) return true;
-  }
-  return false;
-}
-
-bool hasWires(const PortObject& port) { return port.hasPeers() || hasWiresBelow(port); }
+bool hasWires(const PortObject& port) { return port.hasPeers() || anyConnectedBelow(port); }
 
 bool anyHasWires(const NodeObject& node) {
   for (const PortListObject* list : {&node.inputList(), &node.outputList()}) {
@@ -102,7 +93,7 @@ bool PortPlace::put() {
 bool PortPlace::take() {
   if (port->node() != node.get() || port->above() != above.get() || hasWires(*port)) return false;
   if (port->twin() && hasWires(*port->twin())) return false;
-  if (port->ioNode() || port->statePartner()) return false;
+  if (above == nullptr && (port->ioNode() || port->statePartner())) return false;
   index = above != nullptr ? Mutator::removeMember(*port) : Mutator::removePort(*port);
   return true;
 }
@@ -123,8 +114,8 @@ bool MovePort::apply() {
   return true;
 }
 
-SetPortType::SetPortType(PortRef typed, TypeRef type)
-    : port(std::move(typed)), part{std::move(type), {}, {}} {}
+SetPortType::SetPortType(PortRef typed, TypeRef type, std::unique_ptr<const Value> value)
+    : port(std::move(typed)), part{std::move(type), std::move(value), {}, {}} {}
 
 SetPortType::~SetPortType() {
   PortObject::orphan(part.children);
@@ -132,8 +123,8 @@ SetPortType::~SetPortType() {
 }
 
 bool SetPortType::apply() {
-  if (!port->node() || port->isFixed() || hasWiresBelow(*port)) return false;
-  if (port->twin() && hasWiresBelow(*port->twin())) return false;
+  if (!port->node() || port->isFixed() || anyConnectedBelow(*port)) return false;
+  if (port->twin() && anyConnectedBelow(*port->twin())) return false;
   Mutator::exchangeType(*port, part);
   return true;
 }

@@ -113,9 +113,10 @@ struct MovePort {
   bool revert() { return apply(); }
 };
 
-/// Needs the connections of its children to be gone, and its value to fit.
+/// Needs the connections of its children to be gone. The value, null for the default, is one of the
+/// type: it changes with it, so that going back never leaves a value of another type.
 struct ORV_EXPORT SetPortType {
-  SetPortType(PortRef typed, TypeRef type);
+  SetPortType(PortRef typed, TypeRef type, std::unique_ptr<const Value> value);
   SetPortType(SetPortType&&) = default;
   SetPortType& operator=(SetPortType&&) = default;
   ~SetPortType();

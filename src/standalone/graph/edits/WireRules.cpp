@@ -6,15 +6,6 @@
 namespace orvlib {
 namespace {
 
-bool anyBelowConnected(const PortObject& port) {
-  const PortListObject* children = port.madeChildren();
-  if (!children) return false;
-  for (const PortObject* child : children->items()) {
-    if (child->hasPeers() || anyBelowConnected(*child)) return true;
-  }
-  return false;
-}
-
 bool anyAboveConnected(const PortObject& port) {
   for (const PortObject* above = port.above(); above; above = above->above()) {
     if (above->hasPeers()) return true;
@@ -23,6 +14,15 @@ bool anyAboveConnected(const PortObject& port) {
 }
 
 }  // namespace
+
+bool anyConnectedBelow(const PortObject& port) {
+  const PortListObject* children = port.madeChildren();
+  if (!children) return false;
+  for (const PortObject* child : children->items()) {
+    if (child->hasPeers() || anyConnectedBelow(*child)) return true;
+  }
+  return false;
+}
 
 CompoundObject* wireLevel(const PortObject& port) {
   const NodeObject* node = port.node();
@@ -41,7 +41,7 @@ bool facesMatch(const PortObject& source, const PortObject& target) {
 
 bool canConnect(const PortObject& source, const PortObject& target) {
   return facesMatch(source, target) && !target.hasPeers() && !anyAboveConnected(target) &&
-         !anyBelowConnected(target) && canCarry(source, target);
+         !anyConnectedBelow(target) && canCarry(source, target);
 }
 
 bool mayChangeFanIn(const PortObject& port) {

@@ -20,6 +20,9 @@ ORV_EXPORT bool facesMatch(const PortObject& source, const PortObject& target);
 /// another question.
 ORV_EXPORT bool canConnect(const PortObject& source, const PortObject& target);
 
+/// Whether a port below is connected.
+ORV_EXPORT bool anyConnectedBelow(const PortObject& port);
+
 /// Whether the port may become a fan-in port, or stop to be one.
 ORV_EXPORT bool mayChangeFanIn(const PortObject& port);
 

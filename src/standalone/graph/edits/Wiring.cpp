@@ -40,6 +40,12 @@ bool runClearBelow(Transaction& edits, PortObject& port) {
   return true;
 }
 
+/// The member of a fan-in port that the port is, or is a component of; else null.
+PortObject* memberOf(PortObject& port) {
+  PortObject* above = port.kind() == PortKind::Component ? port.above() : &port;
+  return above && above->kind() == PortKind::Member ? above : nullptr;
+}
+
 /// Makes room for a connection to `target`: it, what is above it and what is below it.
 bool runDisplace(Transaction& edits, PortObject& target) {
   if (PortObject* former = target.source()) {
@@ -76,11 +82,13 @@ bool runConnect(Transaction& edits, PortObject& one, PortObject& other, Occupied
 
 bool runDisconnect(Transaction& edits, PortObject& source, PortObject& target) {
   if (!edits.run(Disconnect{{PortRef(&source), PortRef(&target)}})) return false;
-  if (target.kind() != PortKind::Member) return true;
-  // Its components may be connected on their own.
-  if (!runClearBelow(edits, target)) return false;
+  PortObject* member = memberOf(target);
+  if (!member) return true;
+  // Its components may be connected on their own; with the last of them it goes as well.
+  if (member == &target && !runClearBelow(edits, target)) return false;
+  if (!member->above() || member->hasPeers() || anyConnectedBelow(*member)) return true;
   return edits.run(
-      RemovePort{{NodeRef(target.node()), PortRef(&target), 0, PortRef(target.above())}});
+      RemovePort{{NodeRef(member->node()), PortRef(member), 0, PortRef(member->above())}});
 }
 
 bool runDisconnectAll(Transaction& edits, PortObject& port) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <absl/container/flat_hash_map.h>
+
 #include <vector>
 
 #include "standalone/graph/evaluation/Kernel.h"
@@ -23,9 +25,13 @@ class NodeCache {
   /// How many outputs the definition has.
   unsigned int definedOutputs = 0;
 
+  /// Where in `outputs` those are that are not the definition's.
+  absl::flat_hash_map<const PortObject*, unsigned int> furtherSlots;
+
   bool filled = false;
 
-  /// Whether `inputs`, `kernel` and `definedOutputs` are those of the node as it is.
+  /// Whether `inputs`, `kernel`, `definedOutputs` and `furtherSlots` are those of the node as it
+  /// is.
   bool bound = false;
 
   /// Gives up what it holds, also of a frozen node.

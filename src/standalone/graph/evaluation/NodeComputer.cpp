@@ -28,6 +28,14 @@ bool isAsDefined(const std::vector<PortObject*>& ports) {
   });
 }
 
+void bindFurtherOutputs(const NodeObject& node, NodeCache& cache) {
+  cache.furtherSlots.clear();
+  unsigned int slot = cache.definedOutputs;
+  for (const PortObject* port : node.outputList().items()) {
+    if (!port->description()) cache.furtherSlots.emplace(port, slot++);
+  }
+}
+
 void bind(const NodeObject& node, NodeCache& cache) {
   std::vector<PortObject*> ports = definedPorts(node);
   // A stand-in may have the name of a definition that is another one now.
@@ -43,6 +51,7 @@ void bind(const NodeObject& node, NodeCache& cache) {
   }
   ports.resize(ports.size() - cache.definedOutputs);
   cache.inputs = std::move(ports);
+  bindFurtherOutputs(node, cache);
   cache.bound = true;
 }
 

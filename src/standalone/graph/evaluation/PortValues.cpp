@@ -37,12 +37,7 @@ std::size_t slotOf(const NodeObject& node, const NodeCache& cache, const PortObj
     const auto& ports = node.description()->ports;
     return static_cast<std::size_t>(stated - ports.data()) - (ports.size() - cache.definedOutputs);
   }
-  std::size_t slot = cache.definedOutputs;
-  for (const PortObject* other : node.outputList().items()) {
-    if (other == &output) break;
-    if (!other->description()) ++slot;
-  }
-  return slot;
+  return cache.furtherSlots.at(&output);
 }
 
 }  // namespace

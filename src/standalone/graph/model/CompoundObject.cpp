@@ -15,6 +15,13 @@ CompoundObject::~CompoundObject() {
 
 const char* CompoundObject::getName() const { return node_ ? node_->getName() : ""; }
 
+unsigned int CompoundObject::depth() const {
+  unsigned int count = 0;
+  for (const NodeObject* node = node_; node && node->parent(); node = node->parent()->node_)
+    ++count;
+  return count;
+}
+
 bool CompoundObject::isLocked() const {
   static const std::vector<std::string> kYes{"true"};
   const auto* values = metadata().find("locked");

@@ -41,6 +41,10 @@ class ORV_EXPORT CompoundObject final : public WithMetadata<ORV_v1::Compound> {
   /// What comes back when it is no longer a reference; null when that is what it holds.
   FormerContent* former() const { return former_.get(); }
 
+  /// How many levels are above; compounds are made and pasted down to `kDeepest`.
+  unsigned int depth() const;
+  static constexpr unsigned int kDeepest = 1000;
+
   /// Whether the metadata key "locked" is "true".
   bool isLocked() const;
 

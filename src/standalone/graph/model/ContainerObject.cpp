@@ -37,7 +37,7 @@ void ContainerObject::replaceTop(NodeRef top) {
   // What held brackets must still be there when it leaves.
   const NodeRef former = std::exchange(top_, std::move(top));
   nodesLeft();
-  core_->watches().bringBack();
+  core_->watches().bringBack(*top_);
   touch(*top_, kContentChange);
 }
 
@@ -72,6 +72,8 @@ bool ContainerObject::closeBracket(Client* client) {
 }
 
 void ContainerObject::endBracket(Client& client) {
+  // Whoever closed by hand what a bracket value holds has closed it already.
+  if (GraphAccess::ownBrackets(client) == 0) return;
   const bool last = --GraphAccess::ownBrackets(client) == 0;
   const auto entry = std::ranges::find(clients_, &client);
   if (entry == clients_.end()) {

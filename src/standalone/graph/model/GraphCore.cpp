@@ -104,6 +104,7 @@ bool GraphCore::orderWire(GraphVertex& source, GraphVertex& target) {
 }
 
 void GraphCore::forget(NodeObject& node) {
+  watches_.bringBack(node);
   if (node.watched) watches_.forget(node);
   if (container_) container_->forget(node);
 }

@@ -66,17 +66,19 @@ void Mutator::startWatch(GraphVertex& vertex, PortObject& port) {
 }
 
 void Mutator::insertNode(CompoundObject& level, NodeObject& node, unsigned int index) {
+  node.core().watches().bringBack(node);
   level.nodes_.insert(index, &node);
   node.parent_ = &level;
   touch(level.node_, kContentChange);
   if (ContainerObject* container = node.container()) container->nodesEntered();
-  if (node.watched || node.compound_ != nullptr) node.core().watches().bringBack();
 }
 
 unsigned int Mutator::removeNode(NodeObject& node) {
   CompoundObject& level = *node.parent_;
   ContainerObject* container = node.container();
   const NodeRef kept(&node);
+  // What it takes out of a part that is out of the graph already is no longer kept with that part.
+  if (!container) node.core().watches().bringBack(node);
   node.parent_ = nullptr;
   const unsigned int index = level.nodes_.remove(&node);
   touch(level.node_, kContentChange);
@@ -187,7 +189,8 @@ void Mutator::renamePort(PortObject& port, std::string name) {
   const bool member = port.above_ != nullptr;
   PortListObject& list = member ? *port.above_->madeChildren() : node.list(port.direction_);
   PortListObject* inside = port.twin_ ? &node.compound_->list(port.direction_) : nullptr;
-  PortListObject* shown = port.ioNode() ? &ioList(*port.ioNode()) : nullptr;
+  // A member answers as its port does, but is not what the input/output node lists.
+  PortListObject* shown = !member && port.ioNode() ? &ioList(*port.ioNode()) : nullptr;
   auto* names = member ? nullptr : node.madePortNames();
   if (names) names->remove(port.name());
   list.beforeRename(&port);
@@ -201,12 +204,21 @@ void Mutator::renamePort(PortObject& port, std::string name) {
   touch(&node, kPortChange);
 }
 
+void Mutator::exchangeChildren(PortObject& face, PortListRef& children) {
+  PortObject::orphan(face.children_);
+  std::swap(face.children_, children);
+  const PortListObject* fresh = face.madeChildren();
+  if (!fresh) return;
+  for (PortObject* child : fresh->items()) child->above_ = &face;
+}
+
 void Mutator::exchangeType(PortObject& port, TypedPart& part) {
   GraphVertex& vertex = *port.vertex();
   forEachFace(port, [&vertex](PortObject& face) { watchesLeave(vertex, face); });
   std::swap(port.type_, part.type);
-  std::swap(port.children_, part.children);
-  if (port.twin_) std::swap(port.twin_->children_, part.innerChildren);
+  std::swap(port.value_, part.value);
+  exchangeChildren(port, part.children);
+  if (port.twin_) exchangeChildren(*port.twin_, part.innerChildren);
   forgetState(port);
   portChanges(vertex, port);
   forEachFace(port, [&vertex](PortObject& face) { watchesEnter(vertex, face); });
@@ -368,6 +380,10 @@ void Mutator::setUp(WatchPointObject& watchPoint, const WatchPointSetup& setup) 
   watchPoint.setup_ = setup;
   if (!wasEnabled) noteWatch(watchPoint);
   touch(watchPoint.port_ ? watchPoint.port_->node() : nullptr, kWatchChange);
+}
+
+void Mutator::addInnerLine(PortObject& port, std::string line) {
+  port.extras().innerLines.push_back(std::move(line));
 }
 
 }  // namespace orvlib

@@ -30,10 +30,11 @@ class ORV_EXPORT Mutator {
   static unsigned int movePort(PortObject& port, unsigned int index);
   static void renamePort(PortObject& port, std::string name);
 
-  /// Takes type and children in exchange for the port's: both faces' children for a compound's
-  /// port.
+  /// Takes type, value and children in exchange for the port's: both faces' children for a
+  /// compound's port. Children that are put away belong to no port.
   struct TypedPart {
     TypeRef type;
+    std::unique_ptr<const Value> value;
     PortListRef children;
     PortListRef innerChildren;
   };
@@ -78,6 +79,9 @@ class ORV_EXPORT Mutator {
   static void exchangeWatchPoint(PortObject& port, WatchPointRef& watchPoint);
   static void setUp(WatchPointObject& watchPoint, const WatchPointSetup& setup);
 
+  /// Adds a line to what is stored of the inner face that a placeholder's port has not.
+  static void addInnerLine(PortObject& port, std::string line);
+
  private:
   static void touch(NodeObject* node, unsigned char bits);
   static void becomeDirty(PortObject& port);
@@ -94,6 +98,7 @@ class ORV_EXPORT Mutator {
 
   /// A watch point that is enabled now records at the next occasion.
   static void noteWatch(WatchPointObject& watchPoint);
+  static void exchangeChildren(PortObject& face, PortListRef& children);
   static PortListObject& ioList(NodeObject& ioNode);
 };
 

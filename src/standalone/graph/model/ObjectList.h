@@ -61,8 +61,9 @@ class ObjectList : public Api {
     if (kind_ == ListKind::Members && !table_ && count() > kFew) makeTable();
   }
 
-  /// The index that the item had.
+  /// The index that the item had; all ones, and nothing happens, when it is not in the list.
   unsigned int remove(Item* item) {
+    if (!items_.contains(item)) return OrderedList<Item>::kNotFound;
     beforeRename(item);
     const unsigned int index = items_.remove(item);
     if (kind_ != ListKind::Peers) item->release();

@@ -10,6 +10,8 @@ struct PortObject::Extras {
   Properties metadata;
   ORV_v1::AddRefWrapper<ORV_v1::WatchPoint> watchPoint;
 
+  std::vector<std::string> innerLines;
+
   // Of the outer face of a compound's port:
   PortRef inner;
   std::unique_ptr<CompoundPortVertex> vertex;

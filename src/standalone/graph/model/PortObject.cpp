@@ -173,6 +173,11 @@ const PortObject& PortObject::shared() const {
 
 PortObject& PortObject::shared() { return kind_ == PortKind::Inner && twin_ ? *twin_ : *this; }
 
+const std::vector<std::string>& PortObject::innerLines() const {
+  static const std::vector<std::string> none;
+  return extras_ ? extras_->innerLines : none;
+}
+
 PortObject::Extras& PortObject::extras() {
   if (!extras_) extras_ = std::make_unique<Extras>();
   return *extras_;

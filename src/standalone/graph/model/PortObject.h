@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/ORV_1_0/PortList.h"
 #include "standalone/graph/library/NodeDescription.h"
@@ -120,6 +121,10 @@ class ORV_EXPORT PortObject final : public ORV_v1::Port {
 
   /// Null when it has none.
   WatchPointObject* watchPoint() const;
+
+  /// What a stored text said of the inner face of a port of a placeholder, which has no such face,
+  /// line by line: it is stored again as it was.
+  const std::vector<std::string>& innerLines() const;
 
   // Port, Namable, Flaggable
   const char* getName() const override { return name().c_str(); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/graph/model/PortObject.h"
 #include "standalone/graph/texts/ListText.h"
 #include "standalone/graph/types/Conversion.h"
@@ -12,6 +13,15 @@ namespace orvlib {
 namespace {
 
 using ORV_v1::GraphAccess;
+
+FaultPoint kParameterNames("WatchPoint getParameterNames");
+FaultPoint kParameterValues("WatchPoint getParameterValues");
+FaultPoint kDescription("WatchPoint getParameterDescription");
+FaultPoint kValueDescription("WatchPoint getParameterValueDescription");
+FaultPoint kParameterValue("WatchPoint getParameterValue");
+FaultPoint kRecordNames("WatchPoint getRecordNames");
+FaultPoint kClearRecorded("WatchPoint clearRecordedValues");
+FaultPoint kRecordedValues("WatchPoint getRecordedValues");
 
 struct ChoiceRow {
   const char* value;
@@ -79,6 +89,7 @@ void WatchPointObject::record(std::uint64_t evaluation, const Value& value) {
 }
 
 bool WatchPointObject::getParameterNames(ORV_v1::StringArray& names) {
+  if (kParameterNames.refuses()) return false;
   names.clear();
   for (const ParameterRow& row : parameters()) names.add(row.name);
   return true;
@@ -86,7 +97,7 @@ bool WatchPointObject::getParameterNames(ORV_v1::StringArray& names) {
 
 bool WatchPointObject::getParameterValues(const char* name, ORV_v1::StringArray& values) {
   const ParameterRow* row = findParameter(name);
-  if (!row) return false;
+  if (kParameterValues.refuses() || !row) return false;
   values.clear();
   for (const ChoiceRow& choice : row->choices) values.add(choice.value);
   return true;
@@ -94,14 +105,15 @@ bool WatchPointObject::getParameterValues(const char* name, ORV_v1::StringArray&
 
 bool WatchPointObject::getParameterDescription(const char* name, ORV_v1::String& description) {
   const ParameterRow* row = findParameter(name);
-  if (row) description = GraphAccess::makeString(row->description);
-  return row != nullptr;
+  if (kDescription.refuses() || !row) return false;
+  description = GraphAccess::makeString(row->description);
+  return true;
 }
 
 bool WatchPointObject::getParameterValueDescription(const char* name, const char* value,
                                                     ORV_v1::String& description) {
   const ParameterRow* row = findParameter(name);
-  if (!row || !value) return false;
+  if (kValueDescription.refuses() || !row || !value) return false;
   for (const ChoiceRow& choice : row->choices) {
     if (std::string_view(value) != choice.value) continue;
     description = GraphAccess::makeString(choice.description);
@@ -112,23 +124,26 @@ bool WatchPointObject::getParameterValueDescription(const char* name, const char
 
 bool WatchPointObject::getParameterValue(const char* name, ORV_v1::String& value) {
   const ParameterRow* row = findParameter(name);
-  if (row) value = GraphAccess::makeString(setup_.get(row->name));
-  return row != nullptr;
+  if (kParameterValue.refuses() || !row) return false;
+  value = GraphAccess::makeString(setup_.get(row->name));
+  return true;
 }
 
 bool WatchPointObject::getRecordNames(ORV_v1::StringArray& names) {
+  if (kRecordNames.refuses()) return false;
   names.clear();
   for (const char* name : {"value", "evaluation"}) names.add(name);
   return true;
 }
 
 bool WatchPointObject::clearRecordedValues() {
-  if (!port_) return false;
+  if (kClearRecorded.refuses() || !port_) return false;
   records_.clear();
   return true;
 }
 
 bool WatchPointObject::getRecordedValues(const char* name, ORV_v1::StringArray& values) {
+  if (kRecordedValues.refuses()) return false;
   const std::string_view asked = name ? name : "";
   if (asked != "value" && asked != "evaluation") return false;
   std::vector<std::string> texts;

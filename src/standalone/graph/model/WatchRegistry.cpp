@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "standalone/graph/model/CompoundObject.h"
+#include "standalone/graph/model/VertexArcs.h"
+
 namespace orvlib {
 
 WatchRegistry::Entry* WatchRegistry::find(const GraphVertex& vertex) {
@@ -51,13 +54,27 @@ std::vector<GraphVertex*> WatchRegistry::takeWaiting() {
 
 void WatchRegistry::setAside(GraphVertex& vertex) {
   Entry* entry = find(vertex);
-  if (!entry) return;
+  NodeObject* node = nodeOf(vertex);
+  if (!entry || !node) return;
   entry->turn = Turn::Aside;
-  aside_.push_back(&vertex);
+  aside_[&topmost(*node)].push_back(&vertex);
 }
 
-void WatchRegistry::bringBack() {
-  for (GraphVertex* vertex : std::exchange(aside_, {})) {
+NodeObject& WatchRegistry::topmost(NodeObject& node) {
+  NodeObject* top = &node;
+  while (const CompoundObject* level = top->parent()) {
+    if (!level->node()) break;
+    top = level->node();
+  }
+  return *top;
+}
+
+void WatchRegistry::bringBackWith(const NodeObject& top) {
+  const auto kept = aside_.find(&top);
+  if (kept == aside_.end()) return;
+  const auto vertices = std::move(kept->second);
+  aside_.erase(kept);
+  for (GraphVertex* vertex : vertices) {
     Entry* entry = find(*vertex);
     if (!entry || entry->turn != Turn::Aside) continue;
     entry->turn = Turn::Waiting;

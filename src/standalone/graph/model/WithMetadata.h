@@ -5,6 +5,9 @@
 
 namespace orvlib {
 
+/// Asks the fault point of `Metadata::getMetadataValues`.
+ORV_EXPORT bool metadataValuesRefused();
+
 /// The public class `Api` with a set of metadata.
 template <class Api>
 class WithMetadata : public Api {
@@ -12,7 +15,7 @@ class WithMetadata : public Api {
   const Properties& metadata() const { return metadata_; }
 
   bool getMetadataValues(const char* key, ORV_v1::StringArray& values) const override {
-    const auto* found = key ? metadata_.find(key) : nullptr;
+    const auto* found = key && !metadataValuesRefused() ? metadata_.find(key) : nullptr;
     values.clear();
     if (found) ORV_v1::GraphAccess::textsOf(values) = *found;
     return found != nullptr;

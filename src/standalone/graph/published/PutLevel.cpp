@@ -82,8 +82,7 @@ class Putter {
   bool changeType(PortObject& port, const Port& state, bool retyped) {
     LostWires broken;
     if (!loseWires(edits_, port, broken)) return false;
-    if (retyped && !(edits_.run(SetPortValue{PortRef(&port), copyOf(state.value)}) &&
-                     edits_.run(SetPortType(PortRef(&port), state.type)))) {
+    if (retyped && !edits_.run(SetPortType(PortRef(&port), state.type, copyOf(state.value)))) {
       return false;
     }
     if (!edits_.run(SetPortFlags{PortRef(&port), state.flags})) return false;

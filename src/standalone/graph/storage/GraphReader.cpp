@@ -46,6 +46,14 @@ void clearLevel(CompoundObject& level) {
   Mutator::exchangeMetadata(level, none);
 }
 
+void clearWatchPoints(PortObject& port) {
+  WatchPointRef none;
+  if (port.watchPoint()) Mutator::exchangeWatchPoint(port, none);
+  PortListObject* children = port.madeChildren();
+  if (!children) return;
+  for (PortObject* child : children->items()) clearWatchPoints(*child);
+}
+
 }  // namespace
 
 const GraphReader::Statement* GraphReader::findStatement(std::string_view word) {
@@ -148,6 +156,7 @@ void GraphReader::enter(const NodeRef& node, SubjectKind kind) {
   Mutator::insertNode(level(), *node, level().nodes().count());
   node_ = node.get();
   subject_ = kind;
+  innerLines_.clear();
 }
 
 bool GraphReader::readNode() {
@@ -190,11 +199,16 @@ void GraphReader::makeBare(NodeObject& instance, const StatedDefinition& definit
     Mutator::exchangeValue(*port, unset);
     Mutator::exchangeMetadata(*port, empty);
     Mutator::setFlags(*port, stated.fanIn ? std::uint32_t{ORV_v1::kPortFanIn} : 0u);
+    clearWatchPoints(*port->twin());
   }
 }
 
 bool GraphReader::readCompound() {
   if (!isNewName(words()[1])) return false;
+  // The outermost level is none that is nested.
+  if (levels_.size() > kDeepestLevel) {
+    return fail("compounds are nested more than " + std::to_string(kDeepestLevel) + " deep");
+  }
   levels_.push_back(factory_.makeCompound(std::string(words()[1])));
   node_ = levels_.back().get();
   subject_ = kCompound;

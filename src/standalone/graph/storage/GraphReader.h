@@ -98,6 +98,8 @@ class GraphReader {
   Named portOf(NodeObject& node, std::string_view path);
   Named wireEnd(std::string_view path);
   bool notFound(const Named& named, std::string_view path);
+  PortObject* portWithInnerLines(std::string_view path) const;
+  bool keepInnerLine(PortObject& port);
   bool hasLost(const NodeObject& node, std::string_view port);
   PortObject* ownPort(std::string_view name, PortDirection direction);
 
@@ -109,6 +111,10 @@ class GraphReader {
 
   /// The nodes whose levels are open. Each is put into the level around it at its end.
   std::vector<NodeRef> levels_;
+
+  /// What was kept for the inner faces of a placeholder's ports, each by its statement, port and,
+  /// of metadata, key.
+  absl::flat_hash_set<std::string> innerLines_;
   SubjectKind subject_ = kNothing;
   NodeObject* node_ = nullptr;
   AnnotationObject* note_ = nullptr;

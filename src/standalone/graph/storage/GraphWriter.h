@@ -48,6 +48,7 @@ class GraphWriter {
   void writePortSettings(const NodeObject& node);
   void writePort(const PortObject& port, std::string& path);
   void writeShared(const PortObject& port, const std::string& path);
+  void writeMembers(const PortObject& port, const std::string& path);
   void writeFlags(const PortObject& port, const std::string& path);
   void writeWatchPoint(const PortObject& port, const std::string& path);
   void writeMetadata(std::string_view statement, std::string_view path, const Properties& set);

@@ -74,6 +74,40 @@ bool GraphReader::notFound(const Named& named, std::string_view path) {
   return named.lost || fail("there is no port " + inQuotes(path));
 }
 
+/// The port whose inner face the path names, when its node was made by a definition that gives it
+/// no such face, though it might have given it one at another time. Else null.
+PortObject* GraphReader::portWithInnerLines(std::string_view path) const {
+  if (!path.starts_with('.') || node_ == levels_.back().get()) return nullptr;
+  PortObject* port = node_->port(topName(path.substr(1)));
+  const bool stated = port && (port->description() || port->twin());
+  return stated ? port : nullptr;
+}
+
+/// The current line, for a port of `portWithInnerLines`.
+bool GraphReader::keepInnerLine(PortObject& port) {
+  if (node_->nodeKind() != NodeKind::Placeholder) {
+    kept_.insert(ordinal_ - 1);
+    return true;
+  }
+  const bool metadata = words()[0] == "watch-metadata";
+  std::string line(words()[0]);
+  std::string key = "watch";
+  addWord(key, words()[1]);
+  if (metadata) {
+    if (!innerLines_.contains(key)) return fail(inQuotes(words()[1]) + " is not watched");
+    if (words()[2].empty()) return fail("the key of the metadata is empty");
+    key.insert(0, "metadata of ");
+    addWord(key, words()[2]);
+  }
+  if (!innerLines_.insert(std::move(key)).second) {
+    return fail(metadata ? "the metadata " + inQuotes(words()[2]) + " comes twice"
+                         : inQuotes(words()[1]) + " is watched already");
+  }
+  for (std::size_t i = 1; i < words().size(); ++i) addWord(line, words()[i]);
+  Mutator::addInnerLine(port, std::move(line));
+  return true;
+}
+
 bool GraphReader::readPort() {
   const auto direction = readDirection(words()[1]);
   if (!direction) return fail(inQuotes(words()[1]) + " is neither in nor out");
@@ -165,6 +199,9 @@ bool GraphReader::readMember() {
   const Named named = subjectPort(words()[1]);
   if (!named.port) return notFound(named, words()[1]);
   PortObject& fanIn = *named.port;
+  if (fanIn.isInner() && node_ != levels_.back().get()) {
+    return fail("the members of " + inQuotes(words()[1]) + " are its definition's");
+  }
   const std::string_view name = words()[2];
   if (cleanName(name) != name) return fail(inQuotes(name) + " is no name");
   const TypeRef type = node_->core().elementType(fanIn.valueType());
@@ -201,13 +238,17 @@ bool GraphReader::readPortMetadata() {
 
 bool GraphReader::readWatch() {
   const Named named = subjectPort(words()[1]);
-  if (!named.port) return notFound(named, words()[1]);
-  if (named.port->watchPoint()) return fail(inQuotes(words()[1]) + " is watched already");
+  PortObject* around = named.port || named.lost ? nullptr : portWithInnerLines(words()[1]);
+  if (!named.port && !around) return notFound(named, words()[1]);
+  if (!around && named.port->watchPoint()) {
+    return fail(inQuotes(words()[1]) + " is watched already");
+  }
   WatchPointSetup setup;
   if (!setup.set("record", words()[2])) return fail(inQuotes(words()[2]) + " cannot be recorded");
   if (!setup.set("limit", words()[3])) return fail(inQuotes(words()[3]) + " is no limit");
   setup.enabled = words().size() == 4;
   if (!setup.enabled && words()[4] != "off") return fail(inQuotes(words()[4]) + " is not off");
+  if (around) return keepInnerLine(*around);
   WatchPointRef watchPoint(new WatchPointObject);
   Mutator::setUp(*watchPoint, setup);
   Mutator::exchangeWatchPoint(*named.port, watchPoint);
@@ -216,6 +257,8 @@ bool GraphReader::readWatch() {
 
 bool GraphReader::readWatchMetadata() {
   const Named named = subjectPort(words()[1]);
+  PortObject* around = named.port || named.lost ? nullptr : portWithInnerLines(words()[1]);
+  if (around) return keepInnerLine(*around);
   if (!named.port) return notFound(named, words()[1]);
   if (!named.port->watchPoint()) return fail(inQuotes(words()[1]) + " is not watched");
   return addMetadata(*named.port->watchPoint(), 2);

@@ -20,6 +20,12 @@ std::uint32_t givenFlags(const PortObject& port) {
   return node && node->compound()->isReference() ? port.flags() & fanIn : 0;
 }
 
+/// Whether what is inside of it is stored elsewhere.
+bool isOfReference(const PortObject& port) {
+  const NodeObject* node = port.node();
+  return node && node->compound() && node->compound()->isReference();
+}
+
 /// Whether the ports of the definition come first, in its order.
 bool hasDefinitionOrder(const PortListObject& list) {
   const PortDescription* former = nullptr;
@@ -76,6 +82,10 @@ void GraphWriter::writePortSettings(const NodeObject& node) {
     for (const PortObject* port : list->items()) {
       path = port->name();
       writePort(*port, path);
+      for (const std::string& line : port->innerLines()) {
+        begin(line);
+        end();
+      }
       if (!port->twin()) continue;
       path.insert(path.begin(), '.');
       writePort(*port->twin(), path);
@@ -85,7 +95,11 @@ void GraphWriter::writePortSettings(const NodeObject& node) {
 
 void GraphWriter::writePort(const PortObject& port, std::string& path) {
   // What both faces share stands with the outer one.
-  if (port.kind() != PortKind::Inner) writeShared(port, path);
+  if (port.kind() == PortKind::Inner) {
+    writeMembers(port, path);
+  } else {
+    writeShared(port, path);
+  }
   const bool outside = bare_ && !port.isInner();
   if (port.watchPoint() && !outside) writeWatchPoint(port, path);
   const PortListObject* children = port.madeChildren();
@@ -93,7 +107,7 @@ void GraphWriter::writePort(const PortObject& port, std::string& path) {
   const std::size_t length = path.size();
   for (const PortObject* child : children->items()) {
     // In what a compound is, there is nothing of its connections.
-    if (bare_ && child->kind() == PortKind::Member) continue;
+    if (outside && child->kind() == PortKind::Member) continue;
     path += '.';
     path += child->name();
     writePort(*child, path);
@@ -103,14 +117,7 @@ void GraphWriter::writePort(const PortObject& port, std::string& path) {
 
 void GraphWriter::writeShared(const PortObject& port, const std::string& path) {
   if (port.flags() != givenFlags(port)) writeFlags(port, path);
-  if (port.isFanInPort() && port.madeChildren() && !bare_) {
-    for (const PortObject* member : port.madeChildren()->items()) {
-      begin("member");
-      word(path);
-      word(member->name());
-      end();
-    }
-  }
+  writeMembers(port, path);
   if (const Value* value = port.ownValue()) {
     begin("value");
     word(path);
@@ -118,6 +125,18 @@ void GraphWriter::writeShared(const PortObject& port, const std::string& path) {
     end();
   }
   writeMetadata("port-metadata", path, port.metadata());
+}
+
+void GraphWriter::writeMembers(const PortObject& port, const std::string& path) {
+  if (!port.isFanInPort() || !port.madeChildren()) return;
+  // Those inside belong to what the compound is, those outside to its node.
+  if (port.isInner() ? !bare_ && isOfReference(port) : bare_) return;
+  for (const PortObject* member : port.madeChildren()->items()) {
+    begin("member");
+    word(path);
+    word(member->name());
+    end();
+  }
 }
 
 void GraphWriter::writeFlags(const PortObject& port, const std::string& path) {

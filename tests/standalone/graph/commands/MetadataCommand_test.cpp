@@ -1,5 +1,6 @@
 #include "platform/ORV_1_0/MetadataCommand.h"
 
+#include "platform/ORV_1_0/NodeCommand.h"
 #include "platform/ORV_1_0/WatchPointCommand.h"
 #include "tests/standalone/graph/commands/CommandFixture.h"
 
@@ -76,6 +77,79 @@ TEST_F(MetadataCommandTest, RefusesAnEmptyKeyAndAnObjectThatIsNotThere) {
   EXPECT_TRUE(command_.redo());
   command_.addMetadata("a", "1");
   EXPECT_FALSE(command_.redo());
+}
+
+/// An edit of what is at "/group", or at the watch point of its output.
+using Bind = bool (ORV_v1::MetadataCommand::*)(ORV_v1::Container*, const char*);
+struct Bound {
+  const char* name;
+  Bind bind;
+  const char* path;
+};
+
+class MetadataOfWhatHasLeft : public MetadataCommandTest,
+                              public testing::WithParamInterface<Bound> {
+ protected:
+  MetadataOfWhatHasLeft() {
+    watch_.createWatchPoint(handle("/group.out"));
+    EXPECT_TRUE(watch_.redo());
+    EXPECT_TRUE((command_.*GetParam().bind)(&graph_, GetParam().path));
+    EXPECT_TRUE(command_.addMetadata("a", "1"));
+    remove_.removeNode(compound("/"), "group");
+    before_ = text();
+  }
+
+  ORV_v1::WatchPointCommand watch_;
+  ORV_v1::NodeCommand remove_;
+  std::string before_;
+};
+
+TEST_P(MetadataOfWhatHasLeft, CannotBeEditedUntilItIsBack) {
+  ASSERT_TRUE(remove_.redo());
+  EXPECT_FALSE(command_.redo());
+  ASSERT_TRUE(remove_.undo());
+  EXPECT_EQ(text(), before_);
+  EXPECT_TRUE(command_.redo());
+  EXPECT_NE(text(), before_);
+}
+
+TEST_P(MetadataOfWhatHasLeft, CannotBeEditedAgainUntilItIsBack) {
+  ASSERT_TRUE(command_.redo());
+  command_.undo();
+  ASSERT_TRUE(remove_.redo());
+  EXPECT_FALSE(command_.redo());
+  ASSERT_TRUE(remove_.undo());
+  EXPECT_EQ(text(), before_);
+  EXPECT_TRUE(command_.redo());
+  EXPECT_NE(text(), before_);
+}
+
+TEST_P(MetadataOfWhatHasLeft, IsStillTakenBackByUndo) {
+  ASSERT_TRUE(command_.redo());
+  ASSERT_TRUE(remove_.redo());
+  command_.undo();
+  ASSERT_TRUE(remove_.undo());
+  EXPECT_EQ(text(), before_);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, MetadataOfWhatHasLeft,
+    testing::Values(Bound{"Node", &ORV_v1::MetadataCommand::setParentNode, "/group"},
+                    Bound{"Compound", &ORV_v1::MetadataCommand::setParentCompound, "/group"},
+                    Bound{"WatchPoint", &ORV_v1::MetadataCommand::setParentWatchPoint,
+                          "/group.out"}),
+    [](const auto& bound) { return std::string(bound.param.name); });
+
+TEST_F(MetadataCommandTest, AWatchPointThatIsOnNoPortCannotBeEdited) {
+  ORV_v1::WatchPointCommand watch;
+  watch.createWatchPoint(handle("/group.out"));
+  ASSERT_TRUE(watch.redo());
+  const WatchPointRef watched(port("/group.out")->watchPoint());
+  ASSERT_TRUE(command_.setParentWatchPoint(&graph_, "/group.out"));
+  command_.addMetadata("a", "1");
+  watch.undo();
+  EXPECT_FALSE(command_.redo());
+  EXPECT_TRUE(watched->metadata().empty());
 }
 
 }  // namespace

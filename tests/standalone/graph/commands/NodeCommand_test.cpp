@@ -64,6 +64,20 @@ TEST_F(NodeCommandTest, AnInputNodeGetsAPortOfTheCompound) {
   expectReversible(command_, before);
 }
 
+TEST_F(NodeCommandTest, AnOutputNodeGetsAPortOfTheCompound) {
+  add(*addCompound(top(), "group"), kAdd, "deep");
+  const std::string before = text();
+  ASSERT_TRUE(command_.createIONode(compound("/group"), NodeFlags::kOutputNode, "deep.result"));
+  ASSERT_TRUE(command_.redo());
+  EXPECT_EQ(created(), Texts{"output"});
+  EXPECT_STREQ(node("/group/output")->getTypeName().toChar(), "output");
+  EXPECT_TRUE(wired("/group/deep.result", "/group.result"));
+  EXPECT_EQ(compound("/group")->compoundInputs().size(), 0u);
+  ASSERT_EQ(compound("/group")->compoundOutputs().size(), 1u);
+  EXPECT_EQ(graph_.findNode("/group/output")->inputList().at(0), port("/group.result", 0));
+  expectReversible(command_, before);
+}
+
 TEST_F(NodeCommandTest, RemovesANodeWithItsConnections) {
   add(top(), kAdd, "b");
   connect("/a.result", "/b.a");

@@ -134,11 +134,32 @@ TEST_F(Edits, RenameAndMovePorts) {
   EXPECT_EQ(graph_.top().port("two"), two);
 }
 
+TEST_F(Edits, ChangeAValueWithItsType) {
+  PortObject* port = addPort(top(), PortDirection::Input, "in", "float");
+  Transaction typing = run(SetPortType(PortRef(port), graph_.core().findType("string"), nullptr));
+  run(SetPortValue{PortRef(port), std::make_unique<const Value>(Texts{"hello"})});
+  ASSERT_TRUE(typing.revert());
+  EXPECT_EQ(port->ownValue(), nullptr);
+  ASSERT_TRUE(typing.reapply());
+  EXPECT_EQ(*port->ownValue(), Value(Texts{"hello"}));
+}
+
+TEST_F(Edits, LetGoOfChildrenWhileTheyArePutAway) {
+  PortObject* port = addPort(top(), PortDirection::Input, "in", "color3");
+  const PortRef red(port->child("r"));
+  Transaction typing = run(SetPortType(PortRef(port), graph_.core().findType("float"), nullptr));
+  EXPECT_EQ(red->node(), nullptr);
+  EXPECT_EQ(red->settableValue(), std::nullopt);
+  EXPECT_FALSE(connect(addSum("one")->port("result"), red.get()));
+  ASSERT_TRUE(typing.revert());
+  EXPECT_EQ(red->above(), port);
+}
+
 TEST_F(Edits, ChangeATypeWithTheChildrenOfBothFaces) {
   PortObject* port = addPort(top(), PortDirection::Input, "in", "color3");
   PortObject* red = port->child("r");
   PortObject* innerRed = port->twin()->child("r");
-  Transaction edits = run(SetPortType(PortRef(port), graph_.core().findType("vector2")));
+  Transaction edits = run(SetPortType(PortRef(port), graph_.core().findType("vector2"), nullptr));
   EXPECT_FALSE(port->child("r"));
   EXPECT_TRUE(port->twin()->child("x"));
   ASSERT_TRUE(edits.revert());
@@ -147,13 +168,14 @@ TEST_F(Edits, ChangeATypeWithTheChildrenOfBothFaces) {
 }
 
 TEST_F(Edits, DoNotChangeTheTypeOfADefinitionsPort) {
-  EXPECT_FALSE(fits(SetPortType(PortRef(addSum("one")->port("a")), graph_.core().findType("int"))));
+  EXPECT_FALSE(
+      fits(SetPortType(PortRef(addSum("one")->port("a")), graph_.core().findType("int"), nullptr)));
 }
 
 TEST_F(Edits, LeaveHandlesToFormerChildrenUsable) {
   PortObject* port = addPort(top(), PortDirection::Input, "in", "color3");
   const PortRef red(port->child("r"));
-  run(SetPortType(PortRef(port), graph_.core().findType("float")));
+  run(SetPortType(PortRef(port), graph_.core().findType("float"), nullptr));
   EXPECT_EQ(red->name(), "r");
   EXPECT_EQ(red->node(), nullptr);
   EXPECT_EQ(red->above(), nullptr);

@@ -213,6 +213,46 @@ TEST_F(FanIn, IsRemovedWithItsMembers) {
   EXPECT_EQ(peerNames(one->port("result")), Names{"/group.list.item"});
 }
 
+TEST_F(FanIn, LosesAMemberThatAnInputNodeShowsThePortOf) {
+  NodeObject* one = addSum("one");
+  NodeObject* shown = insert(*node_->compound(), factory().makeIo(NodeKind::Input, "shown"));
+  ASSERT_TRUE(edits_.run(SetIoNode{PortRef(list_), NodeRef(shown), 0}));
+  ASSERT_TRUE(connect(one->port("result"), list_));
+  Transaction cut;
+  EXPECT_TRUE(runDisconnect(cut, *one->port("result"), *list_->madeChildren()->at(0)));
+  EXPECT_EQ(list_->madeChildren()->count(), 0u);
+}
+
+TEST_F(FanIn, RenamesAMemberThoughAnInputNodeShowsMany) {
+  NodeObject* shown = insert(*node_->compound(), factory().makeIo(NodeKind::Input, "shown"));
+  for (int i = 0; i < 20; ++i) {
+    PortObject* port =
+        addPort(*node_->compound(), PortDirection::Input, node_->uniquePortName("p"), "float");
+    ASSERT_TRUE(edits_.run(SetIoNode{PortRef(port), NodeRef(shown), 99}));
+  }
+  ASSERT_TRUE(edits_.run(SetIoNode{PortRef(list_), NodeRef(shown), 99}));
+  ASSERT_TRUE(connect(addSum("one")->port("result"), list_));
+  list_->madeChildren()->at(0)->setName("first");
+  EXPECT_TRUE(list_->child("first"));
+  EXPECT_EQ(shown->outputList().find("list"), list_->twin());
+}
+
+TEST_F(FanIn, LosesAMemberWithTheLastConnectionOfItsComponents) {
+  PortObject* points =
+      addPort(*node_->compound(), PortDirection::Input, "points", "array<vector3>");
+  ASSERT_TRUE(edits_.run(SetPortFlags{PortRef(points), ORV_v1::kPortFanIn}));
+  NodeObject* vector = add(top(), "core::vector::vector3::add", "vector");
+  ASSERT_TRUE(connect(vector->outputList().at(0), points));
+  PortObject* member = points->madeChildren()->at(0);
+  NodeObject* one = addSum("one");
+  ASSERT_TRUE(connect(one->port("result"), member->child("x")));
+  Transaction cut;
+  ASSERT_TRUE(runDisconnect(cut, *one->port("result"), *member->child("x")));
+  EXPECT_EQ(points->madeChildren()->count(), 0u);
+  ASSERT_TRUE(cut.revert());
+  EXPECT_EQ(points->madeChildren()->at(0)->child("x")->source(), one->port("result"));
+}
+
 TEST_F(FanIn, KeepsItsFlagWhileItHasMembers) {
   ASSERT_TRUE(connect(addSum("one")->port("result"), list_));
   EXPECT_FALSE(edits_.run(SetPortFlags{PortRef(list_), 0}));

@@ -76,6 +76,31 @@ TEST_F(EvaluatorWatchPoints, RecordsOnceForAWholeBracket) {
   EXPECT_EQ(recorded(watched), (Recorded{"0", "3"}));
 }
 
+TEST_F(EvaluatorWatchPoints, RecordsNothingWhileAClientsBracketIsOpenAndOnceAtItsEnd) {
+  WatchPointObject* watched = watch(sum_->port("result"));
+  const auto before = evaluator_.computedCount();
+  ASSERT_TRUE(graph_.openChangeBracket(nullptr));
+  set(sum_->port("a"), 1);
+  set(sum_->port("a"), 2);
+  set(sum_->port("b"), 3);
+  EXPECT_EQ(recorded(watched), Recorded{"0"});
+  EXPECT_EQ(evaluator_.computedCount(), before);
+  ASSERT_TRUE(graph_.closeChangeBracket(nullptr));
+  EXPECT_EQ(recorded(watched), (Recorded{"0", "5"}));
+  EXPECT_EQ(evaluator_.computedCount(), before + 1);
+}
+
+TEST_F(EvaluatorWatchPoints, RecordsOnlyAtTheEndOfTheOutermostOfTheClientsBrackets) {
+  WatchPointObject* watched = watch(sum_->port("result"));
+  ASSERT_TRUE(graph_.openChangeBracket(nullptr));
+  ASSERT_TRUE(graph_.openChangeBracket(sum_));
+  set(sum_->port("a"), 1);
+  ASSERT_TRUE(graph_.closeChangeBracket(nullptr));
+  EXPECT_EQ(recorded(watched), Recorded{"0"});
+  ASSERT_TRUE(graph_.closeChangeBracket(sum_));
+  EXPECT_EQ(recorded(watched), (Recorded{"0", "1"}));
+}
+
 TEST_F(EvaluatorWatchPoints, RecordsWhatIsAskedForInsideABracket) {
   WatchPointObject* watched = watch(sum_->port("result"));
   {
@@ -166,6 +191,20 @@ TEST_F(EvaluatorWatchPoints, IsSilentWhileItsNodeIsOutOfTheGraph) {
     const ChangeHold hold(graph_);
     ASSERT_TRUE(edits.revert());
   }
+  EXPECT_EQ(recorded(watched), (Recorded{"0", "1"}));
+}
+
+TEST_F(EvaluatorWatchPoints, RecordsOfANodeThatComesBackFromARemovedCompound) {
+  CompoundObject* group = addCompound(top(), "group");
+  NodeObject* inner = add(*group, "core::math::add", "inner");
+  WatchPointObject* watched = watch(inner->port("result"));
+  const NodeRef removed(group->node());
+  ASSERT_TRUE(run(RemoveNode{{CompoundRef(&top()), removed, 0}}));
+  set(inner->port("a"), 1);
+  addSum("elsewhere");
+  const NodeRef kept(inner);
+  ASSERT_TRUE(run(RemoveNode{{CompoundRef(group), kept, 0}}));
+  ASSERT_TRUE(run(InsertNode{{CompoundRef(&top()), kept, 0}}));
   EXPECT_EQ(recorded(watched), (Recorded{"0", "1"}));
 }
 

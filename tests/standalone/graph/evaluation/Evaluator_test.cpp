@@ -205,6 +205,35 @@ TEST_F(EvaluatorTest, AnOutputThatIsNotTheDefinitionsGivesItsSetValue) {
   EXPECT_EQ(value(sum->port("result")), number(1));
 }
 
+TEST_F(EvaluatorTest, EachOfManyOutputsGivesItsOwnValueWhereverItMoves) {
+  NodeObject* sum = addSum("sum");
+  std::vector<PortObject*> extra;
+  for (int i = 0; i < 100; ++i) {
+    extra.push_back(addOwnPort(sum, PortDirection::Output, "extra" + std::to_string(i), "float"));
+    set(extra.back(), static_cast<float>(i));
+  }
+  EXPECT_EQ(value(extra[70]), number(70));
+  run(MovePort{PortRef(extra[70]), 0});
+  set(sum->port("a"), 1000);
+  for (int i = 0; i < 100; ++i) EXPECT_EQ(value(extra[i]), number(static_cast<float>(i)));
+  EXPECT_EQ(value(sum->port("result")), number(1000));
+}
+
+TEST_F(EvaluatorTest, AnOutputThatCameBackGivesItsOwnValue) {
+  NodeObject* sum = addSum("sum");
+  PortObject* first = addOwnPort(sum, PortDirection::Output, "first", "float");
+  PortObject* second = addOwnPort(sum, PortDirection::Output, "second", "float");
+  set(first, 1);
+  set(second, 2);
+  EXPECT_EQ(value(second), number(2));
+  Transaction edits;
+  ASSERT_TRUE(runRemovePort(edits, *first));
+  EXPECT_EQ(value(second), number(2));
+  ASSERT_TRUE(edits.revert());
+  EXPECT_EQ(value(first), number(1));
+  EXPECT_EQ(value(second), number(2));
+}
+
 TEST_F(EvaluatorTest, AFrozenNodeWhoseOutputsChangeComputesOnce) {
   NodeObject* sum = addSum("sum");
   PortObject* extra = addOwnPort(sum, PortDirection::Output, "extra", "float");
@@ -212,7 +241,7 @@ TEST_F(EvaluatorTest, AFrozenNodeWhoseOutputsChangeComputesOnce) {
   setState(sum, NodeState::Frozen, true);
   set(sum->port("a"), 5);
   EXPECT_EQ(value(sum->port("result")), number(0));
-  run(SetPortType(PortRef(extra), graph_.core().findType("vector3")));
+  run(SetPortType(PortRef(extra), graph_.core().findType("vector3"), nullptr));
   EXPECT_EQ(value(extra), Value(Floats{0, 0, 0}));
   EXPECT_EQ(value(sum->port("result")), number(5));
 }

@@ -236,8 +236,7 @@ class RandomEdits {
     const ValueType& wanted = *ORV_v1::GraphAccess::typeOf(*type);
     if (!mayHaveType(outer, wanted)) return false;
     if (outer.twin() && !mayHaveType(*outer.twin(), wanted)) return false;
-    return edits.run(SetPortValue{PortRef(&outer), nullptr}) &&
-           edits.run(SetPortType(PortRef(&outer), type));
+    return edits.run(SetPortType(PortRef(&outer), type, nullptr));
   }
 
   /// Whether the connections of the port fit that type, and none is below it.

@@ -194,6 +194,17 @@ TEST_F(ContainerObjectTest, KeepsAClientWhileABracketOfItLives) {
   EXPECT_FALSE(graph_.activeChangeBracket());
 }
 
+TEST_F(ContainerObjectTest, TakesABracketThatWasClosedByHandForClosed) {
+  {
+    const ORV_v1::ChangeBracket bracket = graph_.makeChangeBracket(&top());
+    EXPECT_TRUE(graph_.closeChangeBracket(&top()));
+  }
+  EXPECT_FALSE(top().activeChangeBracket());
+  EXPECT_TRUE(graph_.openChangeBracket(&top()));
+  EXPECT_TRUE(graph_.closeChangeBracket(&top()));
+  EXPECT_FALSE(graph_.activeChangeBracket());
+}
+
 TEST_F(ContainerObjectTest, TellsOfWhatAListenerChangesInAFurtherRound) {
   class Renamer final : public ChangeListener {
    public:

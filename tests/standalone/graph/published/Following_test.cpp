@@ -75,7 +75,7 @@ TEST_F(Following, APortOfAnotherTypeKeepsItsConnectionIfItCan) {
   PortObject* inner = size->twin();
   Transaction edits;
   ASSERT_TRUE(runDisconnectAll(edits, *inner));
-  ASSERT_TRUE(edits.run(SetPortType(PortRef(size), graph_.core().findType("int"))));
+  ASSERT_TRUE(edits.run(SetPortType(PortRef(size), graph_.core().findType("int"), nullptr)));
   publish("soft", "", true);
   EXPECT_EQ(port("/one.size")->valueType().name, "int");
   EXPECT_TRUE(port("/one.size")->hasPeers());

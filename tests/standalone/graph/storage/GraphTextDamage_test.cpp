@@ -218,6 +218,18 @@ TEST_F(DamagedGraphText, OfBadConnections) {
                 "the connection from 'm.result' to 'm.a' closes a cycle");
 }
 
+TEST_F(DamagedGraphText, OfTooManyLevels) {
+  const auto nested = [](std::size_t levels) {
+    std::string lines;
+    for (std::size_t i = 0; i < levels; ++i) lines += "  compound c\n";
+    for (std::size_t i = 0; i < levels; ++i) lines += "  end\n";
+    return lines;
+  };
+  EXPECT_EQ(refusal(withBlock(nested(5000))), "");
+  expectRefused(nested(5001), 5001, "compounds are nested more than 5000 deep");
+  expectRefused(nested(30000), 5001, "compounds are nested more than 5000 deep");
+}
+
 TEST_F(DamagedGraphText, WithSomethingAfterTheEnd) {
   EXPECT_EQ(refusal("vesk-graph 1\nruntime standard\ngraph\nend\nend\n"),
             "line 5: something follows the end");

@@ -57,6 +57,16 @@ TEST_F(ContentText, ComesOutAsItWas) {
   EXPECT_EQ(againContent(text), text);
 }
 
+TEST_F(ContentText, HasMembersOnInnerFaces) {
+  load(
+      withBlock("  compound c\n    port out many array<float>\n    flags many fan-in\n"
+                "    member .many item\n    watch .many.item all 6\n"
+                "    node n core::math::add\n    wire n.result .many.item\n  end\n"));
+  const std::string text = writeContent(*graph_.findCompound("/c"));
+  EXPECT_THAT(text, HasSubstr("  member .many item\n  watch .many.item all 6\n"));
+  EXPECT_EQ(againContent(text), text);
+}
+
 TEST_F(ContentText, HasNoLinesOfTheNode) {
   for (const char* line : {"state frozen\n", "metadata k v\n", "origin a::b\n"}) {
     EXPECT_THAT(refusedContent(line), HasSubstr("does not belong to what stands before it"))
@@ -115,6 +125,19 @@ TEST_F(SelectionText, KeepsConnectionsInsideItsCompounds) {
       withBlock("  compound g\n    port in i float\n    node a core::math::add\n"
                 "    wire .i a.a\n  end\n"));
   EXPECT_THAT(write({"/g"}), HasSubstr("    wire .i a.a\n"));
+}
+
+TEST_F(SelectionText, KeepsMembersInsideItsCompounds) {
+  load(
+      withBlock("  compound c\n    port out many array<float>\n    flags many fan-in\n"
+                "    member .many item\n    node n core::math::add\n"
+                "    wire n.result .many.item\n  end\n"));
+  Selection selection;
+  expectNoError(readSelection(write({"/c"}), graph_.core(), selection));
+  const CompoundObject& level = *selection.carrier->compound();
+  NodeObject* node = level.nodes().find("c");
+  EXPECT_TRUE(node->port("many")->twin()->descendant("item")->source());
+  EXPECT_EQ(writeSelection(level, std::span(&node, 1), {}), write({"/c"}));
 }
 
 TEST_F(SelectionText, LeavesOutWhatInputOutputNodesShow) {
