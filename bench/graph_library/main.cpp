@@ -62,9 +62,14 @@ void add(benchmark::State& state) {
   measure(state, count, nothing, [&](Graph& graph) { graph.fill(count); });
 }
 
-void connect(benchmark::State& state) {
+std::vector<std::size_t> inOrder(std::size_t count) {
+  std::vector<std::size_t> all(count);
+  std::iota(all.begin(), all.end(), 0u);
+  return all;
+}
+
+void connect(benchmark::State& state, const std::vector<std::size_t>& order) {
   const std::size_t count = countOf(state);
-  const auto order = shuffled(count - 4);
   measure(
       state, order.size(), [&](Graph& graph) { graph.fill(count); },
       [&](Graph& graph) {
@@ -72,9 +77,11 @@ void connect(benchmark::State& state) {
       });
 }
 
-void setValue(benchmark::State& state) {
+void connectInOrder(benchmark::State& state) { connect(state, inOrder(countOf(state) - 4)); }
+void connectShuffled(benchmark::State& state) { connect(state, shuffled(countOf(state) - 4)); }
+
+void setValue(benchmark::State& state, const std::vector<std::size_t>& order) {
   const std::size_t count = countOf(state);
-  const auto order = shuffled(count);
   ORV_v1::StringArray texts;
   texts.add("0.5");
   measure(
@@ -83,6 +90,9 @@ void setValue(benchmark::State& state) {
         for (const std::size_t index : order) graph.setValue(index, texts);
       });
 }
+
+void setValueInOrder(benchmark::State& state) { setValue(state, inOrder(countOf(state))); }
+void setValueShuffled(benchmark::State& state) { setValue(state, shuffled(countOf(state))); }
 
 void findByName(benchmark::State& state) {
   const std::size_t count = countOf(state);
@@ -168,8 +178,10 @@ void redoAll(benchmark::State& state) {
 }
 
 BENCHMARK(add)->Apply(allSizes);
-BENCHMARK(connect)->Apply(allSizes);
-BENCHMARK(setValue)->Apply(allSizes);
+BENCHMARK(connectInOrder)->Apply(allSizes);
+BENCHMARK(connectShuffled)->Apply(allSizes);
+BENCHMARK(setValueInOrder)->Apply(allSizes);
+BENCHMARK(setValueShuffled)->Apply(allSizes);
 BENCHMARK(findByName)->Apply(allSizes);
 BENCHMARK(findByPath)->Apply(allSizes);
 BENCHMARK(rename)->Apply(allSizes);
