@@ -12,6 +12,7 @@
 #include <map>
 #include <numeric>
 
+#include "bench/graph_library/BoundCommands.h"
 #include "bench/graph_library/Graph.h"
 #include "standalone/graph/library/RuntimeRegistry.h"
 
@@ -177,6 +178,23 @@ void redoAll(benchmark::State& state) {
       [](Graph& graph) { graph.redoAllAdds(); });
 }
 
+void bindEmptyCommands(benchmark::State& state) {
+  const std::size_t count = countOf(state);
+  std::string path;
+  measure(
+      state, count,
+      [&](Graph& graph) {
+        graph.fill(count);
+        path = graph.level(3).getAsNode()->getFullPathName().getName();
+      },
+      [&](Graph& graph) {
+        for (std::size_t i = 0; i < count; ++i) {
+          BoundCommands commands(graph.container(), path.c_str());
+          benchmark::DoNotOptimize(commands.redo());
+        }
+      });
+}
+
 BENCHMARK(add)->Apply(allSizes);
 BENCHMARK(connectInOrder)->Apply(allSizes);
 BENCHMARK(connectShuffled)->Apply(allSizes);
@@ -188,6 +206,7 @@ BENCHMARK(rename)->Apply(allSizes);
 BENCHMARK(remove)->Apply(allSizes);
 BENCHMARK(undoAll)->Apply(allSizes);
 BENCHMARK(redoAll)->Apply(allSizes);
+BENCHMARK(bindEmptyCommands)->Apply(allSizes);
 
 class CollectingReporter : public benchmark::ConsoleReporter {
  public:

@@ -25,8 +25,9 @@ class ORV_EXPORT CreateCompoundCommand {
   /// The name asked for; a name that is taken gets a number.
   void setNewCompoundName(const char* name);
 
-  /// False, and nothing recorded, when the level has no such node or annotation, for a second
-  /// naming of it, and for an input/output node, which shows ports of the level that it is in.
+  /// False, and nothing recorded, when the level has no such node or annotation, and for an
+  /// input/output node, which shows ports of the level that it is in. A second naming changes
+  /// nothing.
   bool addNodeToMove(const char* name);
   bool addAnnotationToMove(const char* name);
 

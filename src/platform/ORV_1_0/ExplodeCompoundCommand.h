@@ -23,8 +23,8 @@ class ORV_EXPORT ExplodeCompoundCommand {
   /// As `CreateCompoundCommand::setParentCompound`.
   bool setParentCompound(Container* container, const char* path);
 
-  /// False, and nothing recorded, when the level has no compound of that name, and for a second
-  /// naming of it.
+  /// False, and nothing recorded, when the level has no compound of that name. A second naming
+  /// changes nothing.
   bool addCompoundToExplode(const char* name);
 
   /// The nodes that the last `doit` or `redo` brought out, in order.

@@ -30,7 +30,9 @@ class ORV_EXPORT ModifyCompoundPortCommand {
   /// As `CreateCompoundCommand::setParentCompound`.
   bool setParentCompound(Container* container, const char* path);
 
-  /// Records a new port at the end of its list. A name that is taken gets a number.
+  /// Records a new port at the end of its list. A name that is taken gets a number, an empty one
+  /// becomes "port", and one like "values.x" asks for a member of the fan-in port "values". Values
+  /// that do not fit the type are left out.
   bool createPort(PortIOType direction, const char* name, const char* type,
                   const PortProperties& properties);
   bool renamePort(const char* name, const char* newName);

@@ -30,7 +30,7 @@ class ORV_EXPORT NodeCommand {
   bool createIONode(const AddRefWrapper<Compound>& compound, NodeFlags kind, const char* connectTo);
 
   /// Records the removal of a child node with all its connections. False, and nothing recorded,
-  /// when there is no such node.
+  /// when there is no such node. A second naming changes nothing.
   bool removeNode(const AddRefWrapper<Compound>& compound, const char* name);
 
   /// The names of the nodes that the last `doit` or `redo` added, in order.

@@ -50,7 +50,8 @@ AddRefWrapper<PortList>& Port::children() {
 
 PortList& Port::connectedTo() const {
   // A list that nothing changes may be shown to all who ask.
-  return const_cast<orvlib::PortListObject&>(object(*this).peers());
+  return const_cast<orvlib::PortListObject&>(
+      const_cast<orvlib::PortObject&>(object(*this)).listedPeers());
 }
 
 bool Port::isConnected() const { return object(*this).hasPeers(); }

@@ -64,47 +64,48 @@ struct CreateCompoundCommand::Rep {
   }
 };
 
-CreateCompoundCommand::CreateCompoundCommand() : rep_(new Rep) {}
+CreateCompoundCommand::CreateCompoundCommand() : rep_(nullptr) {}
 CreateCompoundCommand::~CreateCompoundCommand() { delete rep_; }
 
 bool CreateCompoundCommand::setParentCompound(Container* container, const char* path) {
-  if (kSetParent.refuses() || !rep_->named.empty()) return false;
+  if (kSetParent.refuses() || !made(rep_).named.empty()) return false;
   return !rep_->command.isBuilt() && rep_->link.bind(container, path);
 }
 
 void CreateCompoundCommand::setNewCompoundName(const char* name) {
-  rep_->name = name && *name ? name : kDefaultName;
+  made(rep_).name = name && *name ? name : kDefaultName;
 }
 
 bool CreateCompoundCommand::addNodeToMove(const char* name) {
-  const CompoundObject* level = rep_->level();
+  const CompoundObject* level = made(rep_).level();
   NodeObject* node = level && name ? level->nodes().find(name) : nullptr;
   if (kAddNode.refuses() || !node || showsPorts(*node)) return false;
-  if (!rep_->named.insert(node).second) return false;
-  rep_->nodes.emplace_back(node);
+  if (rep_->named.insert(node).second) rep_->nodes.emplace_back(node);
   return true;
 }
 
 bool CreateCompoundCommand::addAnnotationToMove(const char* name) {
-  const CompoundObject* level = rep_->level();
+  const CompoundObject* level = made(rep_).level();
   AnnotationObject* annotation = level && name ? level->annotations().find(name) : nullptr;
   if (kAddAnnotation.refuses() || !annotation) return false;
-  if (!rep_->named.insert(annotation).second) return false;
-  rep_->annotations.emplace_back(annotation);
+  if (rep_->named.insert(annotation).second) rep_->annotations.emplace_back(annotation);
   return true;
 }
 
 String CreateCompoundCommand::getCreatedCompoundPath() const {
-  return rep_->command.isDone() ? GraphAccess::makeString(rep_->created->fullPath()) : String();
+  return rep_ && rep_->command.isDone() ? GraphAccess::makeString(rep_->created->fullPath())
+                                        : String();
 }
 
 bool CreateCompoundCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool CreateCompoundCommand::redo() {
-  return rep_->command.redo(kRedo, rep_->link.container(),
-                            [this](Transaction& edits) { return rep_->run(edits); });
+  return made(rep_).command.redo(kRedo, rep_->link.container(),
+                                 [this](Transaction& edits) { return rep_->run(edits); });
 }
 
-bool CreateCompoundCommand::undo() { return rep_->command.undo(kUndo, rep_->link.container()); }
+bool CreateCompoundCommand::undo() {
+  return made(rep_).command.undo(kUndo, rep_->link.container());
+}
 
 }  // namespace ORV_v1

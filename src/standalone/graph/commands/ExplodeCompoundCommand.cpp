@@ -36,25 +36,24 @@ struct ExplodeCompoundCommand::Rep {
   }
 };
 
-ExplodeCompoundCommand::ExplodeCompoundCommand() : rep_(new Rep) {}
+ExplodeCompoundCommand::ExplodeCompoundCommand() : rep_(nullptr) {}
 ExplodeCompoundCommand::~ExplodeCompoundCommand() { delete rep_; }
 
 bool ExplodeCompoundCommand::setParentCompound(Container* container, const char* path) {
-  if (kSetParent.refuses() || !rep_->compounds.empty()) return false;
+  if (kSetParent.refuses() || !made(rep_).compounds.empty()) return false;
   return rep_->link.bind(container, path);
 }
 
 bool ExplodeCompoundCommand::addCompoundToExplode(const char* name) {
-  const CompoundObject* level = rep_->command.isBuilt() ? nullptr : rep_->link.level();
+  const CompoundObject* level = made(rep_).command.isBuilt() ? nullptr : rep_->link.level();
   NodeObject* node = level && name ? level->nodes().find(name) : nullptr;
   if (kAddCompound.refuses() || !node || !node->compound()) return false;
-  if (!rep_->named.insert(node).second) return false;
-  rep_->compounds.emplace_back(node);
+  if (rep_->named.insert(node).second) rep_->compounds.emplace_back(node);
   return true;
 }
 
 unsigned int ExplodeCompoundCommand::getCreatedNodeCount() const {
-  return rep_->command.isDone() ? static_cast<unsigned int>(rep_->created.size()) : 0;
+  return rep_ && rep_->command.isDone() ? static_cast<unsigned int>(rep_->created.size()) : 0;
 }
 
 const char* ExplodeCompoundCommand::getCreatedNodeName(unsigned int index) const {
@@ -64,13 +63,13 @@ const char* ExplodeCompoundCommand::getCreatedNodeName(unsigned int index) const
 bool ExplodeCompoundCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool ExplodeCompoundCommand::redo() {
-  if (rep_->compounds.empty()) return !kRedo.refuses();
+  if (!rep_ || rep_->compounds.empty()) return !kRedo.refuses();
   return rep_->command.redo(kRedo, rep_->link.container(),
                             [this](Transaction& edits) { return rep_->run(edits); });
 }
 
 bool ExplodeCompoundCommand::undo() {
-  if (rep_->compounds.empty()) return !kUndo.refuses();
+  if (!rep_ || rep_->compounds.empty()) return !kUndo.refuses();
   return rep_->command.undo(kUndo, rep_->link.container());
 }
 

@@ -128,45 +128,46 @@ struct MetadataCommand::Rep {
   }
 };
 
-MetadataCommand::MetadataCommand() : rep_(new Rep) {}
+MetadataCommand::MetadataCommand() : rep_(nullptr) {}
 MetadataCommand::~MetadataCommand() { delete rep_; }
 
 bool MetadataCommand::setParentCompound(Container* container, const char* path) {
   return !kSetCompound.refuses() &&
-         rep_->bind(container, path, [](const ContainerObject& graph, const char* text) {
+         made(rep_).bind(container, path, [](const ContainerObject& graph, const char* text) {
            return graph.findCompound(text);
          });
 }
 
 bool MetadataCommand::setParentNode(Container* container, const char* path) {
   return !kSetNode.refuses() &&
-         rep_->bind(container, path, [](const ContainerObject& graph, const char* text) {
+         made(rep_).bind(container, path, [](const ContainerObject& graph, const char* text) {
            return graph.findNode(text);
          });
 }
 
 bool MetadataCommand::setParentWatchPoint(Container* container, const char* path) {
-  return !kSetWatchPoint.refuses() && rep_->bind(container, path, findWatchPoint);
+  return !kSetWatchPoint.refuses() && made(rep_).bind(container, path, findWatchPoint);
 }
 
 bool MetadataCommand::setMetadata(const char* key, const StringArray& values) {
-  return !kSet.refuses() && rep_->record(key, SetKey{textOf(key), GraphAccess::textsOf(values)});
+  return !kSet.refuses() &&
+         made(rep_).record(key, SetKey{textOf(key), GraphAccess::textsOf(values)});
 }
 
 bool MetadataCommand::addMetadata(const char* key, const char* value) {
-  return !kAdd.refuses() && rep_->record(key, AddValue{textOf(key), textOf(value)});
+  return !kAdd.refuses() && made(rep_).record(key, AddValue{textOf(key), textOf(value)});
 }
 
 bool MetadataCommand::removeMetadata(const char* key, const char* value) {
-  return !kRemove.refuses() && rep_->record(key, RemoveValue{textOf(key), textOf(value)});
+  return !kRemove.refuses() && made(rep_).record(key, RemoveValue{textOf(key), textOf(value)});
 }
 
 bool MetadataCommand::clearMetadata(const char* key) {
-  return !kClear.refuses() && rep_->record(key, ClearKey{textOf(key)});
+  return !kClear.refuses() && made(rep_).record(key, ClearKey{textOf(key)});
 }
 
 bool MetadataCommand::setFromPropertyList(const PropertyList& properties) {
-  if (kSetAll.refuses() || rep_->command.isBuilt()) return false;
+  if (kSetAll.refuses() || made(rep_).command.isBuilt()) return false;
   rep_->requests.push_back(ReplaceAll{GraphAccess::propertiesOf(properties)});
   return true;
 }
@@ -174,14 +175,14 @@ bool MetadataCommand::setFromPropertyList(const PropertyList& properties) {
 bool MetadataCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool MetadataCommand::redo() {
-  if (rep_->requests.empty()) return !kRedo.refuses();
+  if (!rep_ || rep_->requests.empty()) return !kRedo.refuses();
   if (!rep_->isOwnerThere()) return false;
   return rep_->command.redo(kRedo, rep_->graph.container(),
                             [this](Transaction& edits) { return rep_->run(edits); });
 }
 
 void MetadataCommand::undo() {
-  if (!rep_->requests.empty()) rep_->command.undo(kUndo, rep_->graph.container());
+  if (rep_ && !rep_->requests.empty()) rep_->command.undo(kUndo, rep_->graph.container());
 }
 
 }  // namespace ORV_v1

@@ -94,42 +94,42 @@ struct ModifyCompoundAnnotationCommand::Rep {
   }
 };
 
-ModifyCompoundAnnotationCommand::ModifyCompoundAnnotationCommand() : rep_(new Rep) {}
+ModifyCompoundAnnotationCommand::ModifyCompoundAnnotationCommand() : rep_(nullptr) {}
 ModifyCompoundAnnotationCommand::~ModifyCompoundAnnotationCommand() { delete rep_; }
 
 bool ModifyCompoundAnnotationCommand::setParentCompound(Container* container, const char* path) {
-  return !kSetParent.refuses() && !rep_->command.isBuilt() && rep_->link.bind(container, path);
+  return !kSetParent.refuses() && !made(rep_).command.isBuilt() && rep_->link.bind(container, path);
 }
 
 bool ModifyCompoundAnnotationCommand::createBackdrop(const char* name) {
-  if (!rep_->canRecord(kBackdrop)) return false;
+  if (!made(rep_).canRecord(kBackdrop)) return false;
   return rep_->record(NewAnnotation{AnnotationKind::Backdrop, isText(name) ? name : kBackdropName});
 }
 
 bool ModifyCompoundAnnotationCommand::createStickyNote() {
-  return rep_->canRecord(kNote) &&
+  return made(rep_).canRecord(kNote) &&
          rep_->record(NewAnnotation{AnnotationKind::StickyNote, kNoteName});
 }
 
 bool ModifyCompoundAnnotationCommand::deleteAnnotation(const char* name) {
-  return rep_->canRecord(kDelete) && isText(name) && rep_->record(GoneAnnotation{name});
+  return made(rep_).canRecord(kDelete) && isText(name) && rep_->record(GoneAnnotation{name});
 }
 
 bool ModifyCompoundAnnotationCommand::renameAnnotation(const char* name, const char* newName) {
-  if (!rep_->canRecord(kRename) || !isText(name) || !isText(newName)) return false;
+  if (!made(rep_).canRecord(kRename) || !isText(name) || !isText(newName)) return false;
   return rep_->record(NewName{name, newName});
 }
 
 bool ModifyCompoundAnnotationCommand::setAnnotationMetaDataValue(const char* name, const char* key,
                                                                  const char* value) {
-  if (!rep_->canRecord(kSetMetadata) || !isText(name) || !isText(key)) return false;
+  if (!made(rep_).canRecord(kSetMetadata) || !isText(name) || !isText(key)) return false;
   return rep_->record(NewMetadata{name, key, value ? value : ""});
 }
 
 bool ModifyCompoundAnnotationCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool ModifyCompoundAnnotationCommand::redo() {
-  if (rep_->requests.empty()) return !kRedo.refuses();
+  if (!rep_ || rep_->requests.empty()) return !kRedo.refuses();
   return rep_->command.redo(kRedo, rep_->link.container(), [this](Transaction& edits) {
     CompoundObject* level = rep_->link.level();
     if (!level) return false;
@@ -143,7 +143,7 @@ bool ModifyCompoundAnnotationCommand::redo() {
 }
 
 void ModifyCompoundAnnotationCommand::undo() {
-  if (!rep_->requests.empty()) rep_->command.undo(kUndo, rep_->link.container());
+  if (rep_ && !rep_->requests.empty()) rep_->command.undo(kUndo, rep_->link.container());
 }
 
 }  // namespace ORV_v1

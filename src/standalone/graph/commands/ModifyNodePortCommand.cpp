@@ -34,38 +34,39 @@ struct ModifyNodePortCommand::Rep {
   PortEdits edits;
 };
 
-ModifyNodePortCommand::ModifyNodePortCommand() : rep_(new Rep) {}
+ModifyNodePortCommand::ModifyNodePortCommand() : rep_(nullptr) {}
 ModifyNodePortCommand::~ModifyNodePortCommand() { delete rep_; }
 
 bool ModifyNodePortCommand::createPort(const AddRefWrapper<Node>& node, PortIOType direction,
                                        const char* name, const char* type,
                                        const PortProperties& properties) {
   return !kCreatePort.refuses() &&
-         rep_->edits.make(object(node), static_cast<PortDirection>(direction), name, type,
-                          properties);
+         made(rep_).edits.make(object(node), static_cast<PortDirection>(direction), name, type,
+                               properties);
 }
 
 bool ModifyNodePortCommand::deletePort(const AddRefWrapper<Node>& node, const char* name) {
-  return !kDeletePort.refuses() && rep_->edits.remove(object(node), name);
+  return !kDeletePort.refuses() && made(rep_).edits.remove(object(node), name);
 }
 
 bool ModifyNodePortCommand::setPortValues(const AddRefWrapper<Node>& node, const char* name,
                                           const StringArray& values, bool interactive) {
-  return !kSetValues.refuses() && rep_->edits.setValues(object(node), name, values, interactive);
+  return !kSetValues.refuses() &&
+         made(rep_).edits.setValues(object(node), name, values, interactive);
 }
 
 bool ModifyNodePortCommand::resetPortValues(const AddRefWrapper<Node>& node, const char* name) {
-  return !kResetValues.refuses() && rep_->edits.resetValues(object(node), name);
+  return !kResetValues.refuses() && made(rep_).edits.resetValues(object(node), name);
 }
 
 bool ModifyNodePortCommand::setPortType(const AddRefWrapper<Node>& node, const char* name,
                                         const char* type) {
-  return !kSetType.refuses() && rep_->edits.setType(object(node), name, type);
+  return !kSetType.refuses() && made(rep_).edits.setType(object(node), name, type);
 }
 
 bool ModifyNodePortCommand::setPortMetaDataValue(const AddRefWrapper<Node>& node, const char* name,
                                                  const char* key, const char* value) {
-  return !kSetMetadata.refuses() && rep_->edits.setMetadata(object(node), name, key, value);
+  return !kSetMetadata.refuses() && made(rep_).edits.setMetadata(object(node), name, key, value);
 }
 
 bool ModifyNodePortCommand::handlePortFlags(const AddRefWrapper<Port>& port,
@@ -75,13 +76,15 @@ bool ModifyNodePortCommand::handlePortFlags(const AddRefWrapper<Port>& port,
   auto* given = static_cast<PortObject*>(port.get());
   const bool on = operation == QueryPortFlags::kSet;
   if (kHandleFlags.refuses() || (!on && operation != QueryPortFlags::kClear)) return false;
-  return given && isFoundBy(*given, ioType, mode) && rep_->edits.setFlags(given, flags, on);
+  return given && isFoundBy(*given, ioType, mode) && made(rep_).edits.setFlags(given, flags, on);
 }
 
 bool ModifyNodePortCommand::doit() { return !kDoit.refuses() && redo(); }
 
-bool ModifyNodePortCommand::redo() { return rep_->edits.redo(kRedo); }
+bool ModifyNodePortCommand::redo() { return rep_ ? rep_->edits.redo(kRedo) : !kRedo.refuses(); }
 
-void ModifyNodePortCommand::undo() { rep_->edits.undo(kUndo); }
+void ModifyNodePortCommand::undo() {
+  if (rep_) rep_->edits.undo(kUndo);
+}
 
 }  // namespace ORV_v1

@@ -39,7 +39,7 @@ void MoveIntoCompound::collect() {
     for (PortObject* port : node->outputList().items()) collectPort(*port);
   }
   for (Crossing& crossing : incoming_) {
-    const PortListObject& peers = crossing.source->peers();
+    const PeerList& peers = crossing.source->peers();
     const auto place = [&peers](const PortObject* target) { return peers.indexOf(target); };
     std::ranges::sort(crossing.targets, {}, place);
     crossing.place = place(crossing.targets.front());

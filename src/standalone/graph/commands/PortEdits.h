@@ -85,36 +85,25 @@ class PortEdits {
 
   bool accepts(NodeObject* node);
   bool find(NodeObject* node, const char* name, PortPlan::View& view);
-  bool record(PortPlan::View& view, What what);
+  template <class One>
+  bool record(PortPlan::View& view, One what) {
+    requests_.emplace_back(std::move(view.target), std::move(what));
+    return true;
+  }
   bool makeMember(NodeObject& node, std::string_view path, std::unique_ptr<Make> make,
                   const char* type);
   bool recordMake(NodeObject& node, const std::string& path, PortPlan::View view,
                   std::unique_ptr<Make> make);
 
-  PortObject* at(const PlannedPort& planned) const;
-  bool run(Transaction& edits);
-  bool run(Transaction& edits, PortObject& port, const NewValue& what);
-  bool run(Transaction& edits, PortObject& port, const Reset& what);
-  bool run(Transaction& edits, PortObject& port, const NewFlags& what);
-  bool run(Transaction& edits, PortObject& port, const NewMetadata& what);
-  bool run(Transaction& edits, PortObject& port, const Rename& what);
-  bool run(Transaction& edits, PortObject& port, const Move& what);
-  bool run(Transaction& edits, PortObject& port, const Show& what);
-  bool run(Transaction& edits, PortObject& port, const Retype& what);
-  bool run(Transaction& edits, PortObject& port, const Remove& what);
-  bool runMake(Transaction& edits, const Make& make);
-  bool runInsert(Transaction& edits, const Make& make, PortRef& port);
+  /// Requests on their way to be edits.
+  struct Run;
+  bool run(Transaction& edits) const;
 
   GraphLink graph_;
   PortPlan plan_;
   absl::InlinedVector<Request, 1> requests_;
   RecordedCommand command_;
-
   std::size_t makeCount_ = 0;
-  std::vector<PortRef> made_;
-
-  /// The numbers of the edits that undo leaves alone.
-  std::vector<std::size_t> passing_;
 };
 
 }  // namespace orvlib

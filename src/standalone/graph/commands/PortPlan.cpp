@@ -33,16 +33,21 @@ bool PortPlan::View::isFanInPort() const {
          ORV_v1::GraphAccess::typeOf(*type)->isArray();
 }
 
+PortPlan::Changes& PortPlan::changes() {
+  if (!changes_) changes_ = std::make_unique<Changes>();
+  return *changes_;
+}
+
 bool PortPlan::find(NodeObject& node, std::string_view path, View& view) const {
-  if (!planned_.empty()) return findBelow(node, path, view);
+  if (changes_) return findBelow(node, path, view);
   PortObject* port = node.portAt(path);
   if (port) view = viewOf(*port);
   return port != nullptr;
 }
 
 bool PortPlan::findTop(NodeObject& node, const std::string& path, View& view) const {
-  const auto entry = planned_.find(Key(&node, path));
-  if (entry != planned_.end()) {
+  const auto entry = changes_->ports.find(Key(&node, path));
+  if (entry != changes_->ports.end()) {
     if (entry->second) view = *entry->second;
     return entry->second != nullptr;
   }
@@ -68,8 +73,8 @@ bool PortPlan::descend(NodeObject& node, std::string_view top, std::string_view 
                        View& view) const {
   std::string path(top);
   extend(path, name);
-  const auto entry = planned_.find(Key(&node, path));
-  if (entry != planned_.end()) {
+  const auto entry = changes_->ports.find(Key(&node, path));
+  if (entry != changes_->ports.end()) {
     if (entry->second) view = *entry->second;
     return entry->second != nullptr;
   }
@@ -93,37 +98,38 @@ bool PortPlan::descend(NodeObject& node, std::string_view top, std::string_view 
 std::string PortPlan::uniqueName(NodeObject& node, const std::string& above,
                                  std::string_view wanted) {
   const std::string clean = cleanName(wanted);
-  if (planned_.empty() && above.empty()) return node.uniquePortName(clean);
+  if (!changes_ && above.empty()) return node.uniquePortName(clean);
   View view;
   if (!find(node, above + clean, view)) return clean;
   const std::string base = numberedName(clean).base;
-  std::uint64_t& number = nextNumbers_.try_emplace(Key(&node, above + base), 1).first->second;
+  std::uint64_t& number =
+      changes().nextNumbers.try_emplace(Key(&node, above + base), 1).first->second;
   while (find(node, above + base + std::to_string(number), view)) ++number;
   return base + std::to_string(number);
 }
 
 void PortPlan::make(NodeObject& node, const std::string& path, View view) {
-  planned_[Key(&node, path)] = std::make_unique<View>(std::move(view));
+  changes().ports[Key(&node, path)] = std::make_unique<View>(std::move(view));
 }
 
 void PortPlan::rename(NodeObject& node, const std::string& path, const std::string& newPath) {
   View view;
   if (!find(node, path, view)) return;
-  nextNumbers_.clear();
-  planned_[Key(&node, path)] = nullptr;
-  planned_[Key(&node, newPath)] = std::make_unique<View>(std::move(view));
+  changes().nextNumbers.clear();
+  changes().ports[Key(&node, path)] = nullptr;
+  changes().ports[Key(&node, newPath)] = std::make_unique<View>(std::move(view));
 }
 
 void PortPlan::remove(NodeObject& node, const std::string& path) {
-  nextNumbers_.clear();
-  planned_[Key(&node, path)] = nullptr;
+  changes().nextNumbers.clear();
+  changes().ports[Key(&node, path)] = nullptr;
 }
 
 void PortPlan::retype(NodeObject& node, const std::string& path, TypeRef type) {
   View view;
   if (!find(node, path, view)) return;
   view.type = std::move(type);
-  planned_[Key(&node, path)] = std::make_unique<View>(std::move(view));
+  changes().ports[Key(&node, path)] = std::make_unique<View>(std::move(view));
 }
 
 }  // namespace orvlib

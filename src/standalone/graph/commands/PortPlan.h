@@ -2,6 +2,7 @@
 
 #include <absl/container/flat_hash_map.h>
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -57,11 +58,16 @@ class PortPlan {
   bool findBelow(NodeObject& node, std::string_view path, View& view) const;
   bool descend(NodeObject& node, std::string_view top, std::string_view name, View& view) const;
 
-  /// Null for what is gone.
-  absl::flat_hash_map<Key, std::unique_ptr<View>> planned_;
+  struct Changes {
+    /// Null for what is gone.
+    absl::flat_hash_map<Key, std::unique_ptr<View>> ports;
 
-  /// For a base that clashed: all lower numbers are taken. Forgotten when a name becomes free.
-  absl::flat_hash_map<Key, std::uint64_t> nextNumbers_;
+    /// For a base that clashed: all lower numbers are taken. Forgotten when a name becomes free.
+    absl::flat_hash_map<Key, std::uint64_t> nextNumbers;
+  };
+  Changes& changes();
+
+  std::unique_ptr<Changes> changes_;  ///< Null while nothing is planned.
 };
 
 }  // namespace orvlib

@@ -11,6 +11,8 @@ namespace {
 
 using ORV_v1::GraphAccess;
 
+constexpr const char* kDefaultName = "port";
+
 bool isText(const char* text) { return text && *text; }
 
 std::optional<Value> valueOf(const TypeRef& type, const ORV_v1::StringArray& texts) {
@@ -31,14 +33,9 @@ bool PortEdits::find(NodeObject* node, const char* name, PortPlan::View& view) {
   return accepts(node) && isText(name) && plan_.find(*node, name, view);
 }
 
-bool PortEdits::record(PortPlan::View& view, What what) {
-  requests_.push_back({std::move(view.target), std::move(what)});
-  return true;
-}
-
 bool PortEdits::make(NodeObject* node, PortDirection direction, const char* name, const char* type,
                      const ORV_v1::PortProperties& properties) {
-  if (!accepts(node) || !takesPorts(*node) || !isText(name)) return false;
+  if (!accepts(node) || !takesPorts(*node) || !name) return false;
   auto make = std::make_unique<Make>();
   make->node = NodeRef(node);
   make->direction = direction;
@@ -51,8 +48,8 @@ bool PortEdits::make(NodeObject* node, PortDirection direction, const char* name
   }
   make->type = type ? node->core().findType(type) : TypeRef();
   if (make->type == nullptr) return false;
-  if (texts.isValid() && !(make->value = valueOf(make->type, texts.getValues()))) return false;
-  make->name = cleanName(path);
+  if (texts.isValid()) make->value = valueOf(make->type, texts.getValues());
+  make->name = path.empty() ? kDefaultName : cleanName(path);
   PortPlan::View view;
   view.type = make->type;
   view.direction = direction;
@@ -86,7 +83,7 @@ bool PortEdits::recordMake(NodeObject& node, const std::string& path, PortPlan::
                            std::unique_ptr<Make> make) {
   view.target = {.made = makeCount_++};
   plan_.make(node, path, std::move(view));
-  requests_.push_back({PlannedPort(), std::move(make)});
+  requests_.emplace_back(PlannedPort(), std::move(make));
   return true;
 }
 

@@ -5,13 +5,23 @@
 #include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/graph/edits/Transaction.h"
 #include "standalone/graph/model/ChangeHold.h"
+#include "standalone/graph/model/UndoOrder.h"
 
 namespace orvlib {
+
+/// The hidden part of a command, made with the first thing that there is to keep. Whoever has a
+/// command for each thing that may be asked for uses few of them: one that is not used costs no
+/// memory.
+template <class Rep>
+Rep& made(Rep*& rep) {
+  if (!rep) rep = new Rep;
+  return *rep;
+}
 
 /// How far a library command has come, and the edits that it made: the part that all of them share.
 /// The first `redo` builds the edits; `undo` and further ones take the same edits back and do them
 /// again, so that whoever holds an object of the graph finds it again.
-class RecordedCommand {
+class RecordedCommand final : private UndoOrder::Entry {
  public:
   /// `build` is given an empty transaction and adds the edits to it; it may say false at any point.
   /// False, and nothing changed, when it does, and when the command is done already.
@@ -27,24 +37,31 @@ class RecordedCommand {
     } else {
       edits_.rollback();
     }
+    if (done_) container->core().undoOrder().done(*this, container->bracketRound());
     return done_;
   }
 
-  /// False, and nothing changed, when the command is not done or its edits do not fit any more.
+  /// In the order that `UndoOrder` says. False, and nothing changed, when the command is not done
+  /// or its edits do not fit any more.
   bool undo(const FaultPoint& fault, ContainerObject* container) {
     if (fault.refuses() || !done_ || !container) return false;
+    const bool mayWait = container->openBracketCount() > 0;
     const ChangeHold hold(*container);
-    if (!edits_.revert()) return false;
-    done_ = false;
-    return true;
+    return container->core().undoOrder().undo(*this, mayWait);
   }
 
-  bool isDone() const { return done_; }
+  bool isDone() const { return done_ && !isWaiting(); }
 
   /// Whether the edits are settled, so that nothing more can be recorded.
   bool isBuilt() const { return built_; }
 
  private:
+  bool revertNow() override {
+    if (!edits_.revert()) return false;
+    done_ = false;
+    return true;
+  }
+
   Transaction edits_;
   bool built_ = false;
   bool done_ = false;

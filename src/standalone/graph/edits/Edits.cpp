@@ -1,9 +1,13 @@
 #include "standalone/graph/edits/Edits.h"
 
+#include "standalone/graph/api/GraphAccess.h"
 #include "standalone/graph/edits/WireRules.h"
+#include "standalone/graph/types/Components.h"
 
 namespace orvlib {
 namespace {
+
+using ORV_v1::GraphAccess;
 
 bool hasWires(const PortObject& port) { return port.hasPeers() || anyConnectedBelow(port); }
 
@@ -130,7 +134,8 @@ bool SetPortType::apply() {
 }
 
 bool SetPortValue::apply() {
-  if (!port->node()) return false;
+  if (!port->node() || (value && !isOfType(*value, *GraphAccess::typeOf(*port->type()))))
+    return false;
   Mutator::exchangeValue(*port, value);
   return true;
 }

@@ -34,10 +34,10 @@ bool revert(Edit& edit) {
 
 }  // namespace
 
-bool Transaction::run(Edit edit) {
-  if (refused(edit) || !apply(edit)) return false;
-  edits_.push_back(std::move(edit));
-  return true;
+bool Transaction::runLast() {
+  if (!refused(edits_.back()) && apply(edits_.back())) return true;
+  edits_.pop_back();
+  return false;
 }
 
 void Transaction::rollback() {

@@ -16,7 +16,11 @@ class ORV_EXPORT Transaction {
 
   /// Applies the edit and adds it. False, and nothing changed by it, when it does not fit: the
   /// caller then calls `rollback`.
-  bool run(Edit edit);
+  template <class One>
+  bool run(One edit) {
+    edits_.emplace_back(std::move(edit));
+    return runLast();
+  }
 
   /// Takes back what has been run, and forgets it.
   void rollback();
@@ -34,6 +38,8 @@ class ORV_EXPORT Transaction {
   std::size_t size() const { return edits_.size(); }
 
  private:
+  bool runLast();
+
   absl::InlinedVector<Edit, 1> edits_;
 };
 

@@ -59,9 +59,7 @@ void RuntimeRegistry::loadRuntime(const std::filesystem::path& folder, Diagnosti
                            "a runtime named '" + description.name + "' is already loaded"});
     return;
   }
-  const std::string name = description.name;
   runtimes_.push_back(ORV_v1::GraphAccess::makeRuntime(std::move(loaded)));
-  byName_.emplace(name, runtimes_.back().get());
 }
 
 ORV_v1::Runtime* RuntimeRegistry::at(unsigned int index) const {
@@ -69,8 +67,10 @@ ORV_v1::Runtime* RuntimeRegistry::at(unsigned int index) const {
 }
 
 ORV_v1::Runtime* RuntimeRegistry::find(std::string_view name) const {
-  const auto found = byName_.find(name);
-  return found == byName_.end() ? nullptr : found->second;
+  for (const auto& runtime : runtimes_) {
+    if (ORV_v1::GraphAccess::loaded(*runtime).description().name == name) return runtime.get();
+  }
+  return nullptr;
 }
 
 ORV_v1::AddRefWrapper<ORV_v1::NodeLibrary> RuntimeRegistry::findLibrary(

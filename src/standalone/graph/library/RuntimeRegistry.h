@@ -50,7 +50,6 @@ class ORV_EXPORT RuntimeRegistry {
   void loadRuntime(const std::filesystem::path& folder, Diagnostics& diagnostics);
 
   std::vector<std::unique_ptr<ORV_v1::Runtime>> runtimes_;
-  NameMap<ORV_v1::Runtime*> byName_;
   DiagnosticHandler handler_;
   std::filesystem::path published_;
 };

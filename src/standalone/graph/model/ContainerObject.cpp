@@ -85,7 +85,10 @@ void ContainerObject::endBracket(Client& client) {
 }
 
 void ContainerObject::release() {
-  if (--brackets_ == 0 && !settling_) settle();
+  if (brackets_ == 1) core_->undoOrder().undoWaiting();
+  if (--brackets_ > 0) return;
+  ++bracketRound_;
+  if (!settling_) settle();
 }
 
 void ContainerObject::settle() {

@@ -55,6 +55,9 @@ class ORV_EXPORT ContainerObject final : public ORV_v1::Container, public ORV_v1
   bool closeBracket(ORV_v1::ChangeBracketClient* client);
   unsigned int openBracketCount() const { return brackets_; }
 
+  /// Which outermost bracket is open, counted from the first; or comes next.
+  std::uint64_t bracketRound() const { return bracketRound_; }
+
   /// The number of changes so far: another number, another graph.
   std::uint64_t revision() const { return revision_; }
 
@@ -102,8 +105,17 @@ class ORV_EXPORT ContainerObject final : public ORV_v1::Container, public ORV_v1
   std::vector<Client*> clients_;
   std::vector<Client*> absentClients_;
   unsigned int brackets_ = 0;
+  std::uint64_t bracketRound_ = 0;
   bool settling_ = false;
   std::uint64_t revision_ = 0;
+
+  /// What was looked for last: the commands of one line are bound to one level.
+  struct FoundCompound {
+    std::string path;
+    CompoundObject* compound = nullptr;
+    std::uint64_t revision = 0;
+  };
+  mutable FoundCompound lastFound_;
 };
 
 }  // namespace orvlib

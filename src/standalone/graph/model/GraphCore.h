@@ -11,6 +11,7 @@
 #include "standalone/graph/model/Changes.h"
 #include "standalone/graph/model/PortObject.h"
 #include "standalone/graph/model/TopologicalOrder.h"
+#include "standalone/graph/model/UndoOrder.h"
 #include "standalone/graph/model/WatchRegistry.h"
 #include "standalone/graph/model/WireArcs.h"
 
@@ -72,6 +73,7 @@ class ORV_EXPORT GraphCore final : public ORV_v1::ReferenceCounted {
   bool orderWire(GraphVertex& source, GraphVertex& target);
 
   WatchRegistry& watches() { return watches_; }
+  UndoOrder& undoOrder() { return undoOrder_; }
 
   /// The inputs of all pairs of state ports, by their outer faces.
   absl::flat_hash_set<PortObject*>& stateInputs() { return stateInputs_; }
@@ -92,6 +94,7 @@ class ORV_EXPORT GraphCore final : public ORV_v1::ReferenceCounted {
   WireArcs arcs_;
   TopologicalOrder order_{arcs_};
   WatchRegistry watches_;
+  UndoOrder undoOrder_;
   absl::flat_hash_set<PortObject*> stateInputs_;
 };
 

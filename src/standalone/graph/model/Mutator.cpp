@@ -295,15 +295,15 @@ void Mutator::forgetState(PortObject& port) {
 }
 
 void Mutator::connect(PortObject& source, PortObject& target, WireIndices indices) {
-  source.wires().insert(indices.atSource, &target);
-  target.wires().insert(indices.atTarget, &source);
+  source.insertPeer(indices.atSource, target);
+  target.insertPeer(indices.atTarget, source);
   becomeDirty(target);
   touch(source.node(), kWireChange);
   touch(target.node(), kWireChange);
 }
 
 Mutator::WireIndices Mutator::disconnect(PortObject& source, PortObject& target) {
-  const WireIndices indices{source.peers_->remove(&target), target.peers_->remove(&source)};
+  const WireIndices indices{source.removePeer(target), target.removePeer(source)};
   becomeDirty(target);
   touch(source.node(), kWireChange);
   touch(target.node(), kWireChange);

@@ -10,10 +10,10 @@ using ORV_v1::GraphAccess;
 
 NodeObject::NodeObject(GraphCore& core, NodeKind kind, std::string name)
     : GraphVertex(Kind::Node),
-      core_(&core),
-      name_(std::move(name)),
       nodeKind_(kind),
-      states_(bit(NodeState::Enabled)) {
+      states_(bit(NodeState::Enabled)),
+      core_(&core),
+      name_(std::move(name)) {
   core.order().append(*this);
   if (kind == NodeKind::Compound) compound_ = CompoundRef(new CompoundObject(*this));
 }

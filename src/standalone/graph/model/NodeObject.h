@@ -114,19 +114,20 @@ class ORV_EXPORT NodeObject final : public WithMetadata<ORV_v1::Node>, public Gr
   NameTable<PortObject>& portNames();
   NameTable<PortObject>* madePortNames() const;
 
-  CoreRef core_;
-  CompoundObject* parent_ = nullptr;
-  std::string name_;
-  EmbeddedList<PortListObject> inputs_;
-  EmbeddedList<PortListObject> outputs_;
-  DefinitionRef definition_;
-  const NodeDescription* description_ = nullptr;
-  CompoundRef compound_;
-  std::unique_ptr<Extras> extras_;
-  std::unique_ptr<NodeCache> cache_;
+  // In large graphs edits wait for memory: what connecting and setting values need stands together.
   NodeKind nodeKind_;
   unsigned char states_;
   unsigned char changes_ = 0;
+  CoreRef core_;
+  CompoundObject* parent_ = nullptr;
+  std::unique_ptr<Extras> extras_;
+  EmbeddedList<PortListObject> inputs_;
+  EmbeddedList<PortListObject> outputs_;
+  std::unique_ptr<NodeCache> cache_;
+  CompoundRef compound_;
+  std::string name_;
+  DefinitionRef definition_;
+  const NodeDescription* description_ = nullptr;
 };
 
 }  // namespace orvlib

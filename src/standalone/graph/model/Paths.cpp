@@ -52,8 +52,12 @@ NodeObject* ContainerObject::findNode(std::string_view path) const {
 }
 
 CompoundObject* ContainerObject::findCompound(std::string_view path) const {
+  if (lastFound_.revision == revision_ && lastFound_.path == path) return lastFound_.compound;
   const NodeObject* node = findNode(path);
-  return node ? node->compound() : nullptr;
+  lastFound_.path = path;
+  lastFound_.compound = node ? node->compound() : nullptr;
+  lastFound_.revision = revision_;
+  return lastFound_.compound;
 }
 
 PortObject* ContainerObject::findPort(std::string_view path, unsigned int ioType,

@@ -12,6 +12,9 @@ struct PortObject::Extras {
 
   std::vector<std::string> innerLines;
 
+  /// Null before it is first asked for, and kept true from then on.
+  PortListRef listedPeers;
+
   // Of the outer face of a compound's port:
   PortRef inner;
   std::unique_ptr<CompoundPortVertex> vertex;

@@ -17,10 +17,10 @@ const PortListObject& noPorts() {
 }  // namespace
 
 PortObject::PortObject(PortKind kind, PortDirection direction, Name portName, TypeRef type)
-    : name_(std::move(portName)), type_(std::move(type)), kind_(kind), direction_(direction) {}
+    : kind_(kind), direction_(direction), type_(std::move(type)), name_(std::move(portName)) {}
 
 PortObject::~PortObject() {
-  for (PortObject* peer : peers().items()) peer->peers_->remove(this);
+  for (PortObject* peer : peers().items()) peer->removePeer(*this);
   orphan(children_);
   if (WatchPointObject* watched = watchPoint()) watched->port_ = nullptr;
   if (twin_) {
@@ -133,17 +133,28 @@ PortObject* PortObject::descendant(std::string_view path) {
   return port;
 }
 
-const PortListObject& PortObject::peers() const { return peers_ == nullptr ? noPorts() : *peers_; }
-
-bool PortObject::hasPeers() const { return peers_ != nullptr && peers_->count() > 0; }
-
-PortObject* PortObject::source() const { return hasPeers() ? peers_->at(0) : nullptr; }
-
-PortListObject& PortObject::wires() {
-  if (peers_ == nullptr) {
-    peers_ = ORV_v1::AddRefWrapper<PortListObject>(new PortListObject(ListKind::Peers));
+const PortListObject& PortObject::listedPeers() {
+  if (!hasPeers() && !madePeerList()) return noPorts();
+  if (!madePeerList()) {
+    auto* list = new PortListObject(ListKind::Peers);
+    extras().listedPeers = PortListRef(list);
+    for (PortObject* peer : peers_.items()) list->append(peer);
   }
-  return *peers_;
+  return *madePeerList();
+}
+
+PortListObject* PortObject::madePeerList() const {
+  return extras_ ? static_cast<PortListObject*>(extras_->listedPeers.get()) : nullptr;
+}
+
+void PortObject::insertPeer(unsigned int index, PortObject& peer) {
+  peers_.items_.insert(index, &peer);
+  if (PortListObject* listed = madePeerList()) listed->insert(index, &peer);
+}
+
+unsigned int PortObject::removePeer(PortObject& peer) {
+  if (PortListObject* listed = madePeerList()) listed->remove(&peer);
+  return peers_.items_.remove(&peer);
 }
 
 GraphVertex* PortObject::vertex() const {
@@ -166,12 +177,6 @@ PortObject* PortObject::statePartner() const {
 WatchPointObject* PortObject::watchPoint() const {
   return extras_ ? static_cast<WatchPointObject*>(extras_->watchPoint.get()) : nullptr;
 }
-
-const PortObject& PortObject::shared() const {
-  return kind_ == PortKind::Inner && twin_ ? *twin_ : *this;
-}
-
-PortObject& PortObject::shared() { return kind_ == PortKind::Inner && twin_ ? *twin_ : *this; }
 
 const std::vector<std::string>& PortObject::innerLines() const {
   static const std::vector<std::string> none;

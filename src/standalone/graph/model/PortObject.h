@@ -27,6 +27,23 @@ enum class PortKind : unsigned char {
   Member      ///< a member of a fan-in port
 };
 
+/// The far ends of a port's connections, in the order in which they were made.
+class PeerList {
+ public:
+  unsigned int count() const { return items_.size(); }
+
+  /// Null past the end.
+  PortObject* at(unsigned int index) const { return index < count() ? items_.at(index) : nullptr; }
+
+  unsigned int indexOf(const PortObject* peer) const { return items_.indexOf(peer); }
+  bool contains(const PortObject* peer) const { return items_.contains(peer); }
+  const OrderedList<PortObject>& items() const { return items_; }
+
+ private:
+  friend class PortObject;
+  OrderedList<PortObject> items_;
+};
+
 /// What the library knows of a port. What both faces of a compound's port share, such as the name,
 /// the value and the metadata, is kept by the outer face.
 class ORV_EXPORT PortObject final : public ORV_v1::Port {
@@ -104,11 +121,14 @@ class ORV_EXPORT PortObject final : public ORV_v1::Port {
   PortObject* descendant(std::string_view path);
 
   /// The far ends of its connections.
-  const PortListObject& peers() const;
-  bool hasPeers() const;
+  const PeerList& peers() const { return peers_; }
+  bool hasPeers() const { return peers_.count() > 0; }
 
   /// The one source of an input; null when nothing is connected.
-  PortObject* source() const;
+  PortObject* source() const { return peers_.at(0); }
+
+  /// The far ends as the public interface lists them.
+  const PortListObject& listedPeers();
 
   /// What computes or passes on its value; null once the node is gone.
   GraphVertex* vertex() const;
@@ -144,26 +164,30 @@ class ORV_EXPORT PortObject final : public ORV_v1::Port {
   friend class ORV_v1::Port;
   struct Extras;
 
-  const PortObject& shared() const;
-  PortObject& shared();
+  const PortObject& shared() const { return kind_ == PortKind::Inner && twin_ ? *twin_ : *this; }
+  PortObject& shared() { return kind_ == PortKind::Inner && twin_ ? *twin_ : *this; }
   Extras& extras();
-  PortListObject& wires();
+  PortListObject* madePeerList() const;
+  void insertPeer(unsigned int index, PortObject& peer);
+  unsigned int removePeer(PortObject& peer);
   void makeComponents();
+
+  // In large graphs edits wait for memory: what connecting and setting values need stands together.
+  PortKind kind_;
+  PortDirection direction_;
 
   /// Of a top-level port.
   NodeObject* node_ = nullptr;
   PortObject* above_ = nullptr;
   PortObject* twin_ = nullptr;
+  TypeRef type_;
+  std::uint32_t flags_ = 0;
   const PortDescription* description_ = nullptr;
   Name name_;
-  TypeRef type_;
   std::unique_ptr<const Value> value_;
-  ORV_v1::AddRefWrapper<PortListObject> peers_;
+  PeerList peers_;
   PortListRef children_;
   std::unique_ptr<Extras> extras_;
-  std::uint32_t flags_ = 0;
-  PortKind kind_;
-  PortDirection direction_;
 };
 
 }  // namespace orvlib

@@ -45,4 +45,10 @@ std::size_t componentCount(const Value& value) {
   return std::visit([](const auto& all) { return all.size(); }, value);
 }
 
+bool isOfType(const Value& value, const ValueType& type) {
+  if (scalarKindOf(value) != type.scalar) return false;
+  const std::size_t count = componentCount(value);
+  return type.isArray() ? count % type.componentCount() == 0 : count == type.componentCount();
+}
+
 }  // namespace orvlib

@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "platform/ORV_1_0/OrvApi.h"
-#include "standalone/graph/types/Value.h"
+#include "standalone/graph/types/ValueType.h"
 
 namespace orvlib {
 
@@ -17,5 +17,8 @@ ORV_EXPORT void setComponents(Value& value, std::size_t first, const Value& part
 ORV_EXPORT void appendComponents(Value& value, const Value& part);
 
 ORV_EXPORT std::size_t componentCount(const Value& value);
+
+/// Whether the value has the kind and the number of components that values of the type have.
+ORV_EXPORT bool isOfType(const Value& value, const ValueType& type);
 
 }  // namespace orvlib

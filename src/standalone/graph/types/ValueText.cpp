@@ -8,34 +8,35 @@ namespace {
 
 constexpr std::array kScalarKindNames{"boolean", "integer", "float", "string"};
 
+/// Null, or what is wrong with the text.
 template <class Number>
-std::string parseScalar(const std::string& text, Number& number) {
+const char* parseScalar(const std::string& text, Number& number) {
   const char* end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);
   if (error == std::errc::result_out_of_range) return "is out of range";
   if (error != std::errc() || stop != end) return "is not a number";
-  return {};
+  return nullptr;
 }
 
 template <>
-std::string parseScalar(const std::string& text, std::int32_t& number) {
+const char* parseScalar(const std::string& text, std::int32_t& number) {
   const char* end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);
   if (error == std::errc::result_out_of_range) return "is out of range";
   if (error != std::errc() || stop != end) return "is not a whole number";
-  return {};
+  return nullptr;
 }
 
 template <>
-std::string parseScalar(const std::string& text, bool& boolean) {
+const char* parseScalar(const std::string& text, bool& boolean) {
   boolean = text == "true";
-  return boolean || text == "false" ? "" : "is neither true nor false";
+  return boolean || text == "false" ? nullptr : "is neither true nor false";
 }
 
 template <>
-std::string parseScalar(const std::string& text, std::string& string) {
+const char* parseScalar(const std::string& text, std::string& string) {
   string = text;
-  return {};
+  return nullptr;
 }
 
 template <class Number>
@@ -64,7 +65,7 @@ ParsedValue parseScalars(const ValueType& type, const std::vector<std::string>& 
   scalars.reserve(texts.size());
   for (const std::string& text : texts) {
     typename Scalars::value_type scalar{};
-    if (const std::string wrong = parseScalar(text, scalar); !wrong.empty()) {
+    if (const char* wrong = parseScalar(text, scalar)) {
       return {std::nullopt, "'" + text + "' " + wrong + " (type '" + type.name + "')"};
     }
     scalars.push_back(std::move(scalar));

@@ -87,13 +87,20 @@ TEST_F(CreateCompoundCommandTest, WiresToPortsOfTheLevelGoThroughToo) {
   expectReversible(command_, before);
 }
 
-TEST_F(CreateCompoundCommandTest, RefusesWhatIsMissingNamedTwiceOrShowsPorts) {
+TEST_F(CreateCompoundCommandTest, RefusesWhatIsMissingOrShowsPorts) {
   insert(top(), factory().makeIo(NodeKind::Input, "in"));
   EXPECT_FALSE(command_.addNodeToMove("none"));
   EXPECT_FALSE(command_.addNodeToMove("in"));
   EXPECT_FALSE(command_.addAnnotationToMove("none"));
+}
+
+TEST_F(CreateCompoundCommandTest, WhatIsNamedTwiceMovesOnce) {
+  const std::string before = text();
   EXPECT_TRUE(command_.addNodeToMove("a"));
-  EXPECT_FALSE(command_.addNodeToMove("a"));
+  EXPECT_TRUE(command_.addNodeToMove("a"));
+  ASSERT_TRUE(create({}));
+  EXPECT_EQ(compound("/group")->getChildNodes().size(), 1u);
+  expectReversible(command_, before);
 }
 
 TEST_F(CreateCompoundCommandTest, WithNothingToMoveTheCompoundIsEmpty) {

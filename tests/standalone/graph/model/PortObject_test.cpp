@@ -153,6 +153,21 @@ TEST_F(PortObjectTest, ConnectsDirectlyInEitherOrder) {
   EXPECT_EQ(from.connectedTo().findPort(ORV_v1::AddRefWrapper<ORV_v1::Port>(&to)), 0u);
 }
 
+TEST_F(PortObjectTest, ListsItsConnectionsAsTheyComeAndGo) {
+  PortObject& from = *add(top(), "core::math::add", "one")->port("result");
+  NodeObject& node = *add(top(), "core::math::add", "two");
+  ASSERT_TRUE(connect(&from, node.port("a")));
+  const ORV_v1::PortList& list = from.connectedTo();
+  ASSERT_TRUE(connect(&from, node.port("b")));
+  ASSERT_EQ(list.size(), 2u);
+  EXPECT_EQ(list[1u].get(), node.port("b"));
+  Mutator::disconnect(from, *node.port("a"));
+  ASSERT_EQ(list.size(), 1u);
+  EXPECT_EQ(list[0u].get(), node.port("b"));
+  Mutator::connect(from, *node.port("a"), {0, 0});
+  EXPECT_EQ(list[0u].get(), node.port("a"));
+}
+
 TEST_F(PortObjectTest, IsNotTakenFromItsSourceUnlessAskedTo) {
   PortObject& first = *add(top(), "core::math::add", "one")->port("result");
   PortObject& second = *add(top(), "core::math::add", "two")->port("result");
