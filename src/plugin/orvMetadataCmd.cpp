@@ -62,8 +62,7 @@ void orvMetadataCmd::parseCompoundMetadata(KStatus& status, const KArgDatabase& 
   status = StatusFailure;
   const AddRefWrapper<Node> node = compound ? compound->getAsNode() : AddRefWrapper<Node>();
   if (!node) return;
-  metadataCommand.setParentCompound(findContainer(containerName),
-                                    node->getFullPathName().getName());
+  metadataCommand.setParentCompound(node->getContainer(), node->getFullPathName().getName());
   parseMetadataFlags(status, db);
 }
 
@@ -71,7 +70,7 @@ void orvMetadataCmd::parseNodeMetadata(KStatus& status, const KArgDatabase& db,
                                        const AddRefWrapper<Node>& node) {
   status = StatusFailure;
   if (!node) return;
-  metadataCommand.setParentNode(findContainer(containerName), node->getFullPathName().getName());
+  metadataCommand.setParentNode(node->getContainer(), node->getFullPathName().getName());
   parseMetadataFlags(status, db);
 }
 

@@ -1,5 +1,6 @@
 #include <cstdint>
 
+#include "commands/compound/orvCompoundCmd.h"
 #include "platform/OpenVesk/KFnPlugin.h"
 #include "platform/OpenVesk/KMessage.h"
 #include "platform/OpenVesk/KSceneMessage.h"
@@ -28,6 +29,7 @@ struct CommandRow {
 constexpr CommandRow kCommands[] = {
     {"orv", orvActionCmd::creator, orvActionCmd::createSyntax},
     {"orvChangeBracket", orvChangeBracketCmd::creator, orvChangeBracketCmd::createSyntax},
+    {"orvCompound", orvCompoundCmd::creator, orvCompoundCmd::createSyntax},
 };
 
 void registerCommand(KFnPlugin& plugin, const CommandRow& row, KStatus& status) {

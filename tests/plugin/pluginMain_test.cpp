@@ -9,7 +9,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 /// The last command, whose status is that of the load and of the unload.
-constexpr const char* kLast = "orvChangeBracket";
+constexpr const char* kLast = "orvCompound";
 
 using EntryPoint = KStatus (*)(KObject);
 
@@ -43,26 +43,29 @@ TEST_F(PluginMain, TellsItsVendorAndVersion) {
 
 TEST_F(PluginMain, RegistersItsCommands) {
   ASSERT_TRUE(load());
-  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), R"(["orv","orvChangeBracket"])");
+  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"),
+            R"(["orv","orvChangeBracket","orvCompound"])");
 }
 
 TEST_F(PluginMain, RegistersMessagesThenCommandsThenTheSceneCallback) {
   ASSERT_TRUE(load());
   const std::vector<std::string> calls = takeRecordedCalls();
-  ASSERT_EQ(calls.size(), 35u);
+  ASSERT_EQ(calls.size(), 36u);
   EXPECT_EQ(calls[0], "registerString rParsingError");
   EXPECT_EQ(calls[31], "registerString rFlagIsNotQuery");
   EXPECT_EQ(calls[32], "registerCommand orv");
   EXPECT_EQ(calls[33], "registerCommand orvChangeBracket");
-  EXPECT_EQ(calls[34], "addCallback 30");
+  EXPECT_EQ(calls[34], "registerCommand orvCompound");
+  EXPECT_EQ(calls[35], "addCallback 30");
 }
 
 TEST_F(PluginMain, RemovesTheSceneCallbackThenDeregistersItsCommands) {
   ASSERT_TRUE(load());
   takeRecordedCalls();
   ASSERT_TRUE(unload());
-  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback", "deregisterCommand orv",
-                                               "deregisterCommand orvChangeBracket"));
+  EXPECT_THAT(takeRecordedCalls(),
+              ElementsAre("removeCallback", "deregisterCommand orv",
+                          "deregisterCommand orvChangeBracket", "deregisterCommand orvCompound"));
 }
 
 TEST_F(PluginMain, LeavesNoCommandAndNoCallbackBehind) {
@@ -78,7 +81,7 @@ TEST_F(PluginMain, ATakenLastNameIsToldAndIsTheStatusOfTheLoad) {
   takeName(kLast);
   EXPECT_EQ(load().statusCode(), StatusFailure);
   EXPECT_THAT(takeMessages(),
-              ElementsAre("! Failed to register plugin command: orvChangeBracket",
+              ElementsAre("! Failed to register plugin command: orvCompound",
                           AllOf(HasSubstr("cannot load the plug-in"),
                                 HasSubstr("initializePlugin failed with status 1"))));
 
@@ -98,7 +101,7 @@ TEST_F(PluginMain, AnotherTakenNameIsToldAndTheLoadSucceeds) {
   takeName("orv");
   EXPECT_TRUE(load());
   EXPECT_THAT(takeMessages(), ElementsAre("! Failed to register plugin command: orv"));
-  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), R"(["orvChangeBracket"])");
+  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), R"(["orvChangeBracket","orvCompound"])");
 }
 
 TEST_F(PluginMain, ATakenNameKeepsItsCommand) {
@@ -183,7 +186,8 @@ TEST_F(PluginMain, RemovesItsCallbackNoSecondTime) {
   takeRecordedCalls();
   ASSERT_TRUE(unload());
   EXPECT_THAT(takeRecordedCalls(),
-              ElementsAre("deregisterCommand orv", "deregisterCommand orvChangeBracket"));
+              ElementsAre("deregisterCommand orv", "deregisterCommand orvChangeBracket",
+                          "deregisterCommand orvCompound"));
 }
 
 TEST_F(PluginMain, IgnoresTheOtherEventsOfTheScene) {
@@ -198,8 +202,9 @@ TEST_F(PluginMain, GoesInOrderWhenTheSessionEnds) {
   ASSERT_TRUE(load());
   takeRecordedCalls();
   session_->exit();
-  EXPECT_THAT(takeRecordedCalls(), ElementsAre("removeCallback", "deregisterCommand orv",
-                                               "deregisterCommand orvChangeBracket"));
+  EXPECT_THAT(takeRecordedCalls(),
+              ElementsAre("removeCallback", "deregisterCommand orv",
+                          "deregisterCommand orvChangeBracket", "deregisterCommand orvCompound"));
 }
 
 }  // namespace

@@ -12,9 +12,11 @@ class VESK_EXPORT KObject {
   KObject& operator=(const KObject& other);
   ~KObject();
 
+  /// What the handles on one object share; known to the host alone.
+  struct Rep;
+
  private:
   friend struct HostAccess;
-  struct Rep;
   Rep* rep_ = nullptr;
 };
 

@@ -31,7 +31,8 @@ class VESK_EXPORT KStringArray {
  private:
   friend struct HostAccess;
   struct Rep;
-  Rep* rep_;
+  /// Null for an array that never held anything.
+  Rep* rep_ = nullptr;
 };
 
 VESK_API_CLOSE

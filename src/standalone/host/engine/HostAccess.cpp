@@ -62,7 +62,10 @@ const vesk::CommandEntry* HostAccess::entryOf(const KPxCommand& command) {
 
 KObject HostAccess::object(std::shared_ptr<vesk::HostObject> object) {
   KObject result;
-  if (object) result.rep_ = new KObject::Rep{std::move(object)};
+  if (!object) return result;
+  KObject::Rep& handles = object->handles_;
+  if (handles.references++ == 0) handles.object = std::move(object);
+  result.rep_ = &handles;
   return result;
 }
 

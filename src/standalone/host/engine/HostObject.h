@@ -6,6 +6,19 @@
 
 namespace vesk {
 
+class HostObject;
+
+}  // namespace vesk
+
+/// What all handles on one object share. The object carries it, so that making a handle allocates
+/// nothing, and it keeps the object alive while there are handles.
+struct KObject::Rep {
+  unsigned references = 0;
+  std::shared_ptr<vesk::HostObject> object;  ///< null while there is no handle
+};
+
+namespace vesk {
+
 /// What a `KObject` can be a handle on.
 class HostObject {
  public:
@@ -13,10 +26,10 @@ class HostObject {
   HostObject(const HostObject&) = delete;
   HostObject& operator=(const HostObject&) = delete;
   virtual ~HostObject() = default;
+
+ private:
+  friend struct ::HostAccess;
+  KObject::Rep handles_;
 };
 
 }  // namespace vesk
-
-struct KObject::Rep {
-  std::shared_ptr<vesk::HostObject> object;
-};

@@ -161,17 +161,23 @@ ArgType ParsedArguments::positionalType(unsigned int index) const {
   return index < types.size() ? types[index] : types.empty() ? KSyntax::ArgNone : types.back();
 }
 
+const ParsedArguments::GivenFlag* ParsedArguments::given(std::string_view declaredName) const {
+  const auto found = std::find_if(flags_.begin(), flags_.end(), [&](const GivenFlag& one) {
+    return one.spec->isNamed(declaredName);
+  });
+  return found == flags_.end() ? nullptr : &*found;
+}
+
 const ParsedArguments::GivenFlag* ParsedArguments::flag(const char* declaredName,
                                                         KStatus& status) const {
   const std::string_view name = declaredName ? declaredName : "";
-  for (const GivenFlag& given : flags_) {
-    if (given.spec->isNamed(name)) {
-      status = StatusSuccess;
-      return &given;
-    }
+  const GivenFlag* found = given(name);
+  if (found) {
+    status = StatusSuccess;
+  } else {
+    status = syntax_.find(name) ? StatusFailure : StatusBadArgument;
   }
-  status = syntax_.find(name) ? StatusFailure : StatusBadArgument;
-  return nullptr;
+  return found;
 }
 
 const KString* ParsedArguments::flagArgument(const char* declaredName, unsigned int index,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <absl/container/inlined_vector.h>
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -22,7 +24,7 @@ class ParsedArguments {
   struct GivenFlag {
     const FlagSpec* spec;
     Use use;  ///< the first
-    std::vector<Use> moreUses;
+    std::vector<Use> moreUses = {};
 
     unsigned int uses() const { return 1 + static_cast<unsigned int>(moreUses.size()); }
     const Use& at(unsigned int i) const { return i == 0 ? use : moreUses[i - 1]; }
@@ -38,7 +40,10 @@ class ParsedArguments {
   bool isQuery() const { return query_; }
   bool isEdit() const { return edit_; }
 
-  /// The flag of this declared name if it was given, else null and the reason in `status`.
+  /// The flag of this declared name if it was given, else null.
+  const GivenFlag* given(std::string_view declaredName) const;
+
+  /// The same, with the reason for null in `status`.
   const GivenFlag* flag(const char* declaredName, KStatus& status) const;
 
   /// Argument `index` of the flag's first use, else null and the reason in `status`.
@@ -66,8 +71,8 @@ class ParsedArguments {
 
   const SyntaxData& syntax_;
   std::shared_ptr<const ArgumentArray> arguments_;
-  std::vector<GivenFlag> flags_;  ///< each flag once
-  std::vector<unsigned int> positional_;
+  absl::InlinedVector<GivenFlag, 2> flags_;  ///< each flag once
+  absl::InlinedVector<unsigned int, 4> positional_;
   std::string refusal_;
   bool query_ = false;
   bool edit_ = false;

@@ -2,6 +2,7 @@
 
 #include <QUuid>
 
+#include "standalone/host/engine/HostAccess.h"
 #include "standalone/host/scene/Scene.h"
 
 namespace vesk {
@@ -11,6 +12,7 @@ SceneNode::SceneNode(std::string type, std::string name, std::string uuid,
     : type_(std::move(type)),
       name_(std::move(name)),
       uuid_(std::move(uuid)),
+      identifier_(HostAccess::uuid(uuid_)),
       payload_(std::move(payload)) {}
 
 void SceneNode::contentChanged() {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/OpenVesk/KUuid.h"
 #include "standalone/host/engine/HostObject.h"
 #include "standalone/host/scene/NodePayload.h"
 
@@ -23,6 +24,7 @@ class SceneNode final : public HostObject {
 
   /// Like "6ba7b810-9dad-11d1-80b4-00c04fd430c8"; the node's own for all its life.
   const std::string& uuid() const { return uuid_; }
+  const KUuid& identifier() const { return identifier_; }
 
   /// Null for a type without data.
   NodePayload* payload() const { return payload_.get(); }
@@ -47,6 +49,7 @@ class SceneNode final : public HostObject {
   std::string type_;
   std::string name_;
   std::string uuid_;
+  KUuid identifier_;  ///< of the same text
   std::unique_ptr<NodePayload> payload_;
   Scene* scene_ = nullptr;
   std::uint64_t place_ = 0;

@@ -8,7 +8,9 @@ VESK_API_OPEN
 
 KObject::KObject() = default;
 
-KObject::KObject(const KObject& other) : rep_(other.rep_ ? new Rep(*other.rep_) : nullptr) {}
+KObject::KObject(const KObject& other) : rep_(other.rep_) {
+  if (rep_) ++rep_->references;
+}
 
 KObject& KObject::operator=(const KObject& other) {
   KObject copy(other);
@@ -16,6 +18,10 @@ KObject& KObject::operator=(const KObject& other) {
   return *this;
 }
 
-KObject::~KObject() { delete rep_; }
+KObject::~KObject() {
+  if (!rep_ || --rep_->references > 0) return;
+  // The record goes with the object, if this was the last that kept it.
+  const std::shared_ptr<vesk::HostObject> last = std::move(rep_->object);
+}
 
 VESK_API_CLOSE

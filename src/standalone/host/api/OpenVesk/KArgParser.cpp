@@ -25,7 +25,10 @@ KArgParser::KArgParser(const KSyntax& syntax, const KArgList& args, KStatus* sta
 
 KArgParser::~KArgParser() { delete rep_; }
 
+/// Commands ask for all their flags, most of which are not given: unless the caller wants the
+/// reason, it is not looked for.
 bool KArgParser::isFlagSet(const char* flag, KStatus* status) const {
+  if (!status) return flag && rep_->parsed.given(flag);
   KStatus found;
   const bool given = rep_->parsed.flag(flag, found) != nullptr;
   HostAccess::report(status,

@@ -7,8 +7,9 @@ VESK_API_OPEN
 
 namespace {
 
-std::shared_ptr<vesk::SceneNode> nodeOf(const KObject& object) {
-  return std::dynamic_pointer_cast<vesk::SceneNode>(HostAccess::objectOf(object));
+/// Null for an object that is no scene node.
+const vesk::SceneNode* nodeOf(const KObject& object) {
+  return dynamic_cast<const vesk::SceneNode*>(HostAccess::objectOf(object).get());
 }
 
 void report(KStatus* status, bool worked) {
@@ -18,15 +19,15 @@ void report(KStatus* status, bool worked) {
 }  // namespace
 
 KFnDependencyNode::KFnDependencyNode(KObject& object, KStatus* status) : object_(object) {
-  report(status, nodeOf(object) != nullptr);
+  if (status) report(status, nodeOf(object) != nullptr);
 }
 
 KFnDependencyNode::~KFnDependencyNode() = default;
 
 KUuid KFnDependencyNode::uuid(KStatus* status) const {
-  const auto node = nodeOf(object_);
+  const vesk::SceneNode* node = nodeOf(object_);
   report(status, node != nullptr);
-  return HostAccess::uuid(node ? node->uuid() : std::string());
+  return node ? node->identifier() : KUuid(HostAccess::uuid({}));
 }
 
 VESK_API_CLOSE

@@ -1,13 +1,14 @@
 #include "platform/OpenVesk/KSelectionList.h"
 
-#include <vector>
+#include <absl/container/inlined_vector.h>
 
 #include "standalone/host/engine/HostAccess.h"
 
 VESK_API_OPEN
 
+/// Most lists hold one object.
 struct KSelectionList::Rep {
-  std::vector<KObject> objects;
+  absl::InlinedVector<KObject, 1> objects;
 };
 
 void HostAccess::append(KSelectionList& list, KObject object) {
