@@ -23,6 +23,14 @@ bool fits(ArgType type, std::string_view text) {
   }
 }
 
+/// A command asks for its flags by name, and most are not given: two names nearly always differ in
+/// the first letters, before a library call would pay.
+bool same(const std::string& declared, const char* name) {
+  const char* at = declared.c_str();
+  for (; *at != '\0' && *at == *name; ++at) ++name;
+  return *at == *name;
+}
+
 /// What a type expects, with its range when the text is a number beyond it.
 std::string_view expectation(ArgType type, std::string_view text) {
   if (!isNumber(text)) return argTypeName(type);
@@ -161,16 +169,18 @@ ArgType ParsedArguments::positionalType(unsigned int index) const {
   return index < types.size() ? types[index] : types.empty() ? KSyntax::ArgNone : types.back();
 }
 
-const ParsedArguments::GivenFlag* ParsedArguments::given(std::string_view declaredName) const {
-  const auto found = std::find_if(flags_.begin(), flags_.end(), [&](const GivenFlag& one) {
-    return one.spec->isNamed(declaredName);
-  });
-  return found == flags_.end() ? nullptr : &*found;
+const ParsedArguments::GivenFlag* ParsedArguments::given(const char* declaredName) const {
+  for (const GivenFlag& one : flags_) {
+    if (same(one.spec->shortName, declaredName) || same(one.spec->longName, declaredName)) {
+      return &one;
+    }
+  }
+  return nullptr;
 }
 
 const ParsedArguments::GivenFlag* ParsedArguments::flag(const char* declaredName,
                                                         KStatus& status) const {
-  const std::string_view name = declaredName ? declaredName : "";
+  const char* name = declaredName ? declaredName : "";
   const GivenFlag* found = given(name);
   if (found) {
     status = StatusSuccess;

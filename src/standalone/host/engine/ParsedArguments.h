@@ -41,7 +41,7 @@ class ParsedArguments {
   bool isEdit() const { return edit_; }
 
   /// The flag of this declared name if it was given, else null.
-  const GivenFlag* given(std::string_view declaredName) const;
+  const GivenFlag* given(const char* declaredName) const;
 
   /// The same, with the reason for null in `status`.
   const GivenFlag* flag(const char* declaredName, KStatus& status) const;
