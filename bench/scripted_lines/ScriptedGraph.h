@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "commands/compound/orvCompoundCmd.h"
+#include "commands/graph/orvConnectCmd.h"
+#include "commands/graph/orvNodeCmd.h"
 #include "platform/ORV_1_0/NodeList.h"
 #include "plugin/pluginMessages.h"
 #include "standalone/graph/library/RuntimeRegistry.h"
@@ -20,8 +22,9 @@ class ScriptedGraph {
   explicit ScriptedGraph(std::size_t count) : session_(options()) {
     vesk::addOrvGraphType(session_.scene().types());
     registerMessages();
-    session_.registry().add(
-        {"orvCompound", orvCompoundCmd::creator, orvCompoundCmd::createSyntax(), nullptr, {}});
+    add("orvCompound", orvCompoundCmd::creator, orvCompoundCmd::createSyntax());
+    add("orvConnect", orvConnectCmd::creator, orvConnectCmd::createSyntax());
+    add("orvNode", orvNodeCmd::creator, orvNodeCmd::createSyntax());
     run("createNode orvGraph -name \"g\"");
     container_ = ORV_v1::Container::getFromUUID(session_.scene().find("g")->uuid().c_str());
     top_ = container_->getTopNode()->asCompound();
@@ -55,6 +58,10 @@ class ScriptedGraph {
   void forget() { session_.undoQueue().clear(); }
 
  private:
+  void add(const char* name, KFnPlugin::Creator creator, const KSyntax& syntax) {
+    session_.registry().add({name, creator, syntax, nullptr, {}});
+  }
+
   static vesk::SessionOptions options() {
     vesk::SessionOptions options;
     options.messages = [](const vesk::Message& message) {

@@ -4,6 +4,11 @@
 
 #include "platform/OpenVesk/KSyntax.h"
 
+// Short names for the rows of a table.
+inline constexpr KSyntax::KArgType kText = KSyntax::ArgString;
+inline constexpr KSyntax::KArgType kBool = KSyntax::ArgBoolean;
+inline constexpr KSyntax::KArgType kUnsigned = KSyntax::ArgUnsigned;
+
 /// A flag of a command: its names, with or without a leading "-" as the command declares them and
 /// asks for them, the kinds of its arguments, and whether a line may give it repeatedly.
 struct FlagRow {

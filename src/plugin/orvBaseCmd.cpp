@@ -39,6 +39,28 @@ AddRefWrapper<Compound> orvBaseCmd::requireCompound(Container& container, const 
   return compound;
 }
 
+KStatus orvBaseCmd::parseContainer(const KArgDatabase& db, KStatus status) {
+  if (status) status = getContainerArgument(containerName, db);
+  if (!status) displayError(rParsingError);
+  return status;
+}
+
+KStatus orvBaseCmd::requireArgument(const KArgDatabase& db, unsigned int index, KString& value) {
+  const KStatus status = db.getCommandArgument(index, value);
+  if (!status) displayError(rTooFewArgsError);
+  return status;
+}
+
+/// The host reads positional numbers with a sign; the syntax has refused negative ones.
+KStatus orvBaseCmd::requireArgument(const KArgDatabase& db, unsigned int index,
+                                    unsigned int& value) {
+  int number = 0;
+  const KStatus status = db.getCommandArgument(index, number);
+  value = static_cast<unsigned int>(number);
+  if (!status) displayError(rTooFewArgsError);
+  return status;
+}
+
 void addStringArgument(KSyntax& syntax) { syntax.addArg(KSyntax::ArgString); }
 
 KStatus getContainerArgument(KString& containerName, const KArgDatabase& db) {

@@ -28,6 +28,15 @@ class orvBaseCmd {
   static ORV_v1::AddRefWrapper<ORV_v1::Compound> requireCompound(ORV_v1::Container& container,
                                                                  const KString& path);
 
+  /// The start of a parse, with the status of the database: the line must fit the syntax and name a
+  /// container. Otherwise the user is told, and the status says so.
+  KStatus parseContainer(const KArgDatabase& db, KStatus status);
+
+  /// Reads a positional argument. When there is none the user is told, and the status of the read
+  /// is returned.
+  static KStatus requireArgument(const KArgDatabase& db, unsigned int index, KString& value);
+  static KStatus requireArgument(const KArgDatabase& db, unsigned int index, unsigned int& value);
+
   /// The first positional argument: the name of a scene node, or a container's identifier.
   KString containerName;
 };

@@ -27,11 +27,8 @@ KSyntax orvChangeBracketCmd::createSyntax() {
 KStatus orvChangeBracketCmd::parseArgs(const KArgList& args) {
   KStatus status;
   const KArgDatabase db(syntax(), args, &status);
-  if (status) status = getContainerArgument(containerName, db);
-  if (!status) {
-    displayError(rParsingError);
-    return status;
-  }
+  status = parseContainer(db, status);
+  if (!status) return status;
   // The path may be left out.
   db.getCommandArgument(1, bracketNodePath);
   closeBracket = db.isFlagSet("-c");

@@ -2,8 +2,9 @@
 
 #include "platform/OpenVesk/KPxCommand.h"
 #include "plugin/FlagRow.h"
+#include "plugin/flagReading.h"
 #include "plugin/fromUTF8.h"
-#include "plugin/pluginMessages.h"
+#include "plugin/refuse.h"
 
 using ORV_v1::AddRefWrapper;
 using ORV_v1::Compound;
@@ -26,20 +27,15 @@ constexpr FlagRow kFlags[] = {
     {"-mas", "-queryMetaDataAsString"},
 };
 
-bool refuse(MessageId message) {
-  displayError(message);
-  return false;
-}
-
 /// An argument that cannot be read counts as empty, and an empty name is refused.
 bool readName(const KArgDatabase& db, const char* flag, KString& name) {
-  db.getFlagArgument(flag, 0, name);
+  name = FlagReading{db, flag}.text();
   return name.length() > 0 || refuse(rEmptyMetadataError);
 }
 
 /// The value may be empty.
 bool readNameAndValue(const KArgDatabase& db, const char* flag, KString& name, KString& value) {
-  db.getFlagArgument(flag, 1, value);
+  value = FlagReading{db, flag}.text(1);
   return readName(db, flag, name);
 }
 
@@ -142,7 +138,7 @@ bool orvMetadataCmd::parseClear(const KArgDatabase& db, const char* flag) {
 }
 
 bool orvMetadataCmd::parseFromString(const KArgDatabase& db, const char* flag) {
-  db.getFlagArgument(flag, 0, metadataSourceText);
+  metadataSourceText = FlagReading{db, flag}.text();
   if (metadataSourceText.length() == 0) return refuse(rInvalidMetadataError);
   PropertyList properties;
   if (!properties.unserialize(metadataSourceText.asUTF8(), PropertyList::kSerializeAll)) {

@@ -1,6 +1,9 @@
 #include <cstdint>
 
 #include "commands/compound/orvCompoundCmd.h"
+#include "commands/graph/orvConnectCmd.h"
+#include "commands/graph/orvNodeCmd.h"
+#include "commands/graph/orvPortCmd.h"
 #include "platform/OpenVesk/KFnPlugin.h"
 #include "platform/OpenVesk/KMessage.h"
 #include "platform/OpenVesk/KSceneMessage.h"
@@ -30,6 +33,9 @@ constexpr CommandRow kCommands[] = {
     {"orv", orvActionCmd::creator, orvActionCmd::createSyntax},
     {"orvChangeBracket", orvChangeBracketCmd::creator, orvChangeBracketCmd::createSyntax},
     {"orvCompound", orvCompoundCmd::creator, orvCompoundCmd::createSyntax},
+    {"orvConnect", orvConnectCmd::creator, orvConnectCmd::createSyntax},
+    {"orvNode", orvNodeCmd::creator, orvNodeCmd::createSyntax},
+    {"orvPort", orvPortCmd::creator, orvPortCmd::createSyntax},
 };
 
 void registerCommand(KFnPlugin& plugin, const CommandRow& row, KStatus& status) {

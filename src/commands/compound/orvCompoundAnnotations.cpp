@@ -2,14 +2,14 @@
 #include "platform/ORV_1_0/Annotation.h"
 #include "platform/ORV_1_0/String.h"
 #include "plugin/fromUTF8.h"
-#include "plugin/pluginMessages.h"
+#include "plugin/refuse.h"
 
 using ORV_v1::AddRefWrapper;
 using ORV_v1::Annotation;
 using ORV_v1::Compound;
 
 bool orvCompoundCmd::parseAddBackdrop(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     annotationCommand.createBackdrop(use.asString(0).asUTF8());
     return true;
   });
@@ -17,21 +17,21 @@ bool orvCompoundCmd::parseAddBackdrop(Parse& parse) {
 
 /// The flag takes a text, and a sticky note takes none: it is dropped.
 bool orvCompoundCmd::parseAddStickyNote(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList&) {
+  return parse.forEachUse([&](const KArgList&) {
     annotationCommand.createStickyNote();
     return true;
   });
 }
 
 bool orvCompoundCmd::parseRemoveAnnotation(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     annotationCommand.deleteAnnotation(use.asString(0).asUTF8());
     return true;
   });
 }
 
 bool orvCompoundCmd::parseRenameAnnotation(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     annotationCommand.renameAnnotation(use.asString(0).asUTF8(), use.asString(1).asUTF8());
     return true;
   });
@@ -41,8 +41,7 @@ bool orvCompoundCmd::parseSetAnnotationMetaDataValue(Parse& parse) {
   const KString annotation = parse.text(0);
   const KString key = parse.text(1);
   if (annotation.length() == 0 || key.length() == 0) {
-    displayError(rEmptyAnnotationMetaDataNameError, annotation, key);
-    return false;
+    return refuse(rEmptyAnnotationMetaDataNameError, annotation, key);
   }
   annotationCommand.setAnnotationMetaDataValue(annotation.asUTF8(), key.asUTF8(),
                                                parse.text(2).asUTF8());
@@ -53,9 +52,8 @@ bool orvCompoundCmd::parseSetAnnotationMetaDataValue(Parse& parse) {
 bool orvCompoundCmd::parseQueryAnnotationMetaDataValue(Parse& parse) {
   queriedAnnotationName = parse.text(0);
   queriedAnnotationMetaName = parse.text(1);
-  if (queriedAnnotationName.length() > 0 && queriedAnnotationMetaName.length() > 0) return true;
-  displayError(rEmptyAnnotationMetaDataNameError, queriedAnnotationName);
-  return false;
+  const bool named = queriedAnnotationName.length() > 0 && queriedAnnotationMetaName.length() > 0;
+  return named || refuse(rEmptyAnnotationMetaDataNameError, queriedAnnotationName);
 }
 
 /// The library passes over annotations that are not there.

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "plugin/pluginMessages.h"
+#include "plugin/refuse.h"
 
 using ORV_v1::Compound;
 
@@ -105,9 +105,7 @@ bool orvCompoundCmd::redoMetadataEdits(Compound&) { return redoMetadata(); }
 void orvCompoundCmd::undoMetadataEdits(Compound&) { undoMetadata(); }
 
 bool orvCompoundCmd::requireEditable(Compound& compound) {
-  if (compound.isEditable()) return true;
-  displayError(rCompoundNotEditable);
-  return false;
+  return compound.isEditable() || refuse(rCompoundNotEditable);
 }
 
 /// A reset counts as an edit, and yet it stays: what the compound held before is gone.

@@ -11,7 +11,6 @@
 #include "platform/ORV_1_0/ModifyCompoundAnnotationCommand.h"
 #include "platform/ORV_1_0/ModifyCompoundPortCommand.h"
 #include "platform/ORV_1_0/NodeCommand.h"
-#include "platform/ORV_1_0/PortTypeLookup.h"
 #include "platform/OpenVesk/KPxCommand.h"
 #include "plugin/flagReading.h"
 #include "plugin/orvMetadataCmd.h"
@@ -23,7 +22,8 @@
 /// time, since other commands may have deleted it and made it anew.
 class orvCompoundCmd : public orvMetadataCmd, public KPxCommand {
  public:
-  /// What `redoIt` changes. A line without any of these is not undoable.
+  /// What `redoIt` changes. A line without any of these, and without edits of metadata, is not
+  /// undoable.
   enum EditActionFlags : std::uint32_t {
     kEditCreate = 1,
     kEditExplode = 2,
@@ -39,7 +39,7 @@ class orvCompoundCmd : public orvMetadataCmd, public KPxCommand {
   };
 
   /// What `redoIt` reports once it has made its changes. Saving and publishing are among them: they
-  /// change no graph, and cannot be undone.
+  /// write files, and cannot be undone.
   enum QueryActionFlags : std::uint32_t {
     kQuerySpecializedTypeName = 1,
     kQueryIsReferenced = 2,
@@ -139,16 +139,10 @@ class orvCompoundCmd : public orvMetadataCmd, public KPxCommand {
   };
 
   /// What the steps of a parse share.
-  struct Parse {
-    const KArgDatabase& db;
+  struct Parse : FlagReading {
     const CompoundHandle& compound;
-    ORV_v1::Container* container;
-    const char* flag = nullptr;  ///< the flag of the running step
-    KString connectTo;           ///< empty without `-connectTo`
-
-    /// Argument `index` of the flag's first use.
-    KString text(unsigned int index = 0) const { return flagText(db, flag, index); }
-    bool boolean(unsigned int index = 0) const { return flagBool(db, flag, index); }
+    ORV_v1::Container& container;
+    KString connectTo;  ///< empty without `-connectTo`
   };
 
   /// How one flag of the line is read.
@@ -194,7 +188,6 @@ class orvCompoundCmd : public orvMetadataCmd, public KPxCommand {
 
   // orvCompoundParsing.cpp
   KStatus parseArgs(const KArgList& args);
-  KStatus parsePath(const KArgDatabase& db);
   void bindCommands(ORV_v1::Container& container);
   bool parseFlags(Parse& parse);
 

@@ -86,18 +86,18 @@ class NodeConnections {
 bool orvCompoundCmd::parseListNodes(Parse& parse) {
   const KArgDatabase& db = parse.db;
   if (db.isFlagSet("-nt")) {
-    listNodeType = flagText(db, "-nt");
+    listNodeType = parse.of("-nt").text();
     listNodesFlags.setFlag(kListNodeType);
   }
   if (db.isFlagSet("-cn")) {
-    listConnectedValue = flagBool(db, "-cn");
+    listConnectedValue = parse.of("-cn").boolean();
     listNodesFlags.setFlag(kListConnected);
     if (!listConnectedValue) return true;
   }
   if (db.isFlagSet("-cti")) listNodesFlags.setFlag(kListConnectedToInput);
   if (db.isFlagSet("-cto")) listNodesFlags.setFlag(kListConnectedToOutput);
   if (db.isFlagSet("-ct")) {
-    listConnectedTo = flagText(db, "-ct");
+    listConnectedTo = parse.of("-ct").text();
     listNodesFlags.setFlag(kListConnectedTo);
   }
   return true;

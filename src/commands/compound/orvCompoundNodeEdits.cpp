@@ -1,7 +1,7 @@
 #include "commands/compound/orvCompoundCmd.h"
 #include "platform/ORV_1_0/NodeList.h"
 #include "plugin/fromUTF8.h"
-#include "plugin/pluginMessages.h"
+#include "plugin/refuse.h"
 
 using ORV_v1::AddRefWrapper;
 using ORV_v1::Compound;
@@ -15,7 +15,7 @@ bool orvCompoundCmd::parseCreate(Parse& parse) {
 }
 
 bool orvCompoundCmd::parseExplode(Parse& parse) {
-  readUses(parse.db, parse.flag, compoundsToExplode);
+  compoundsToExplode = parse.uses();
   return true;
 }
 
@@ -26,14 +26,14 @@ bool orvCompoundCmd::parseConnectTo(Parse& parse) {
 }
 
 bool orvCompoundCmd::parseAddNode(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     addNodeCommand.createNode(parse.compound, use.asString(0).asUTF8(), parse.connectTo.asUTF8());
     return true;
   });
 }
 
 bool orvCompoundCmd::parseAddIONode(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     const NodeFlags kind = use.asBool(0) ? NodeFlags::kInputNode : NodeFlags::kOutputNode;
     addNodeCommand.createIONode(parse.compound, kind, parse.connectTo.asUTF8());
     return true;
@@ -41,19 +41,19 @@ bool orvCompoundCmd::parseAddIONode(Parse& parse) {
 }
 
 bool orvCompoundCmd::parseMoveAnnotationIn(Parse& parse) {
-  readUses(parse.db, parse.flag, annotationsToMove);
+  annotationsToMove = parse.uses();
   return true;
 }
 
 bool orvCompoundCmd::parseRemoveNode(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     removeNodeCommand.removeNode(parse.compound, use.asString(0).asUTF8());
     return true;
   });
 }
 
 bool orvCompoundCmd::parseMoveNodeIn(Parse& parse) {
-  readUses(parse.db, parse.flag, nodesToMove);
+  nodesToMove = parse.uses();
   return true;
 }
 
@@ -62,7 +62,7 @@ bool orvCompoundCmd::parseMoveNodeIn(Parse& parse) {
 bool orvCompoundCmd::parseRenameNode(Parse& parse) {
   renames.resize(parse.db.numberOfFlagUses(parse.flag));
   auto next = renames.begin();
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     next->from = use.asString(0).asUTF8();
     next->to = use.asString(1).asUTF8();
     ++next;
@@ -97,24 +97,19 @@ void orvCompoundCmd::primeCreate(Container* container, const char* path) {
   }
 }
 
-/// Unlike what is to be moved in, what is to be exploded must be there: on purpose, since nothing
-/// would be left of the edit.
+/// Unlike what is to be moved in, what is to be exploded must be there, on purpose.
 bool orvCompoundCmd::primeExplode(Container* container, const char* path) {
   explodeCommand.setParentCompound(container, path);
   for (const KString& name : compoundsToExplode) {
     if (!explodeCommand.addCompoundToExplode(name.asUTF8())) {
-      displayError(rNodeNameNotFoundError, name, compoundPath);
-      return false;
+      return refuse(rNodeNameNotFoundError, name, compoundPath);
     }
   }
   return true;
 }
 
 bool orvCompoundCmd::createCompound(Compound&) {
-  if (!createCommand.doit()) {
-    displayError(rCreateCompoundError);
-    return false;
-  }
+  if (!createCommand.doit()) return refuse(rCreateCompoundError);
   setResult(fromUTF8(createCommand.getCreatedCompoundPath().toChar()));
   return true;
 }

@@ -55,12 +55,9 @@ const orvCompoundCmd::ParseStep orvCompoundCmd::kParseSteps[] = {
 KStatus orvCompoundCmd::parseArgs(const KArgList& args) {
   KStatus status;
   const KArgDatabase db(syntax(), args, &status);
-  if (status) status = getContainerArgument(containerName, db);
-  if (!status) {
-    displayError(rParsingError);
-    return status;
-  }
-  status = parsePath(db);
+  status = parseContainer(db, status);
+  if (!status) return status;
+  status = requireArgument(db, 1, compoundPath);
   if (!status) return status;
   const CompoundHandle compound = findCompound();
   if (!compound) return StatusFailure;
@@ -69,16 +66,9 @@ KStatus orvCompoundCmd::parseArgs(const KArgList& args) {
     displayError(rParsingError);
     return status;
   }
-  Parse parse{db, compound, compound->getAsNode()->getContainer(), nullptr, KString()};
-  bindCommands(*parse.container);
+  Parse parse{{db}, compound, *compound->getAsNode()->getContainer(), KString()};
+  bindCommands(parse.container);
   return parseFlags(parse) ? StatusSuccess : StatusFailure;
-}
-
-/// The path goes without the second message that a missing container has.
-KStatus orvCompoundCmd::parsePath(const KArgDatabase& db) {
-  const KStatus status = db.getCommandArgument(1, compoundPath);
-  if (!status) displayError(rTooFewArgsError);
-  return status;
 }
 
 void orvCompoundCmd::bindCommands(Container& container) {

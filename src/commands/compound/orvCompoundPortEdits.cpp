@@ -1,10 +1,8 @@
 #include "commands/compound/orvCompoundCmd.h"
-#include "platform/ORV_1_0/OptionalStringArray.h"
+#include "commands/portArguments.h"
 #include "platform/ORV_1_0/PortProperties.h"
-#include "platform/ORV_1_0/PortTypeLookup.h"
-#include "platform/ORV_1_0/PropertyList.h"
 #include "plugin/fromUTF8.h"
-#include "plugin/pluginMessages.h"
+#include "plugin/refuse.h"
 
 using ORV_v1::AddRefWrapper;
 using ORV_v1::Compound;
@@ -13,45 +11,9 @@ using ORV_v1::Port;
 using ORV_v1::PortDataType;
 using ORV_v1::PortIOType;
 using ORV_v1::PortProperties;
-using ORV_v1::PropertyList;
 using ORV_v1::StringArray;
 
 namespace {
-
-bool refuse(MessageId message, const KString& argument) {
-  displayError(message, argument);
-  return false;
-}
-
-bool refuse(MessageId message, const KString& argument1, const KString& argument2) {
-  displayError(message, argument1, argument2);
-  return false;
-}
-
-/// Values that cannot be read are not told of: the port is then made with none of its own.
-void readValues(const KArgDatabase& db, Container& container, const KString& type,
-                PortProperties& properties) {
-  StringArray values;
-  const AddRefWrapper<PortDataType> found = container.portTypeLookup().findPortType(type.asChar());
-  unserializePortValues(flagText(db, "-cpv"), values, found);
-  properties.defaultValues().setValues(values);
-}
-
-/// False, and the user is told, when the options cannot be read.
-bool readOptions(const KArgDatabase& db, PortProperties& properties) {
-  const KString options = flagText(db, "-cpo");
-  return properties.options().unserialize(options.asUTF8(), PropertyList::kSerializeAll) ||
-         refuse(rInvalidPortOptions, options);
-}
-
-/// All ports of a line get the same flags, values and options. False when the options are refused.
-bool readProperties(const KArgDatabase& db, Container& container, const KString& type,
-                    PortProperties& properties) {
-  unsigned int flags = 0;
-  if (db.getFlagArgument("-cpf", 0, flags)) properties.setFlags(flags);
-  if (db.isFlagSet("-cpv")) readValues(db, container, type, properties);
-  return !db.isFlagSet("-cpo") || readOptions(db, properties);
-}
 
 /// The type of a port of the compound; null without such a port.
 AddRefWrapper<PortDataType> typeOf(Compound& compound, Container& container, const KString& port) {
@@ -74,10 +36,10 @@ bool orvCompoundCmd::parseCreateOutputPort(Parse& parse) {
 
 /// A port of an unknown type is told of and left out; the others of the line are made.
 bool orvCompoundCmd::parseCreatePorts(Parse& parse, PortIOType direction) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     const KString type = use.asString(1);
     PortProperties properties;
-    if (!readProperties(parse.db, *parse.container, type, properties)) return false;
+    if (!readPortProperties(parse.db, parse.container, type, properties)) return false;
     const bool recorded =
         portCommand.createPort(direction, use.asString(0).asUTF8(), type.asUTF8(), properties);
     if (recorded) {
@@ -98,7 +60,7 @@ bool orvCompoundCmd::noteEdit(const Parse& parse, const KString& port, bool reco
 }
 
 bool orvCompoundCmd::parseRenamePort(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     const KString port = use.asString(0);
     const bool recorded = portCommand.renamePort(port.asUTF8(), use.asString(1).asUTF8());
     return noteEdit(parse, port, recorded, kEditPorts);
@@ -138,7 +100,7 @@ bool orvCompoundCmd::parseSetPortDefaultValues(Parse& parse) {
   const KString port = parse.text();
   if (port.length() == 0) return refuse(rEmptyPortNameError, port);
   StringArray values;
-  unserializePortValues(parse.text(1), values, typeOf(*parse.compound, *parse.container, port));
+  unserializePortValues(parse.text(1), values, typeOf(*parse.compound, parse.container, port));
   const bool recorded = portValueCommand.setPortValues(port.asUTF8(), values, false);
   return noteEdit(parse, port, recorded, kEditPortValues);
 }
@@ -162,7 +124,7 @@ bool orvCompoundCmd::parseSetPortMetaDataValue(Parse& parse) {
 }
 
 bool orvCompoundCmd::parseDeletePort(Parse& parse) {
-  return forEachUse(parse.db, parse.flag, [&](const KArgList& use) {
+  return parse.forEachUse([&](const KArgList& use) {
     const KString port = use.asString(0);
     return noteEdit(parse, port, portCommand.deletePort(port.asUTF8()), kEditPorts);
   });

@@ -46,7 +46,7 @@ bool orvCompoundCmd::parseSetIsReferenced(Parse& parse) {
 }
 
 bool orvCompoundCmd::parseResetToFactory(Parse& parse) {
-  readUses(parse.db, parse.flag, resetToFactoryNodes);
+  resetToFactoryNodes = parse.uses();
   return true;
 }
 

@@ -1,15 +1,15 @@
 #include "commands/compound/orvCompoundCmd.h"
+#include "commands/portArguments.h"
 #include "platform/ORV_1_0/PortList.h"
 #include "platform/ORV_1_0/String.h"
 #include "plugin/fromUTF8.h"
-#include "plugin/pluginMessages.h"
+#include "plugin/refuse.h"
 
 using ORV_v1::AddRefWrapper;
 using ORV_v1::Compound;
 using ORV_v1::Container;
 using ORV_v1::Port;
 using ORV_v1::PortList;
-using ORV_v1::StringArray;
 
 namespace {
 
@@ -37,45 +37,17 @@ const orvCompoundCmd::Stage orvCompoundCmd::kQueryStages[] = {
     {kQueryCanResetToFactory, &orvCompoundCmd::queryCanResetToFactory},
 };
 
-namespace {
-
-void setChildren(Port& port) {
-  const AddRefWrapper<PortList>& children = port.children();
-  if (!children) return;
-  KStringArray names;
-  names.setLength(children->size());
-  unsigned int next = 0;
-  for (const AddRefWrapper<Port>& child : *children) names[next++] = fromUTF8(child->getName());
-  KPxCommand::setResult(names);
-}
-
-/// One value is a text, any other number of them a list; false stands for a port that has none to
-/// give.
-void setDefaultValues(const Port& port) {
-  StringArray values;
-  if (!port.getPortDefaultValues(values)) return KPxCommand::setResult(false);
-  if (values.size() == 1) return KPxCommand::setResult(fromUTF8(values[0]));
-  KStringArray texts;
-  toKStringArray(values, texts);
-  KPxCommand::setResult(texts);
-}
-
-}  // namespace
-
 /// The port queries share one field, so the last that was read has the name.
 bool orvCompoundCmd::parseQueriedPort(Parse& parse) {
   queriedPortName = parse.text();
-  if (queriedPortName.length() > 0) return true;
-  displayError(rEmptyPortNameError, queriedPortName);
-  return false;
+  return queriedPortName.length() > 0 || refuse(rEmptyPortNameError, queriedPortName);
 }
 
 bool orvCompoundCmd::parseQueryPortMetaDataValue(Parse& parse) {
   queriedPortName = parse.text(0);
   queriedPortMetaName = parse.text(1);
-  if (queriedPortName.length() > 0 && queriedPortMetaName.length() > 0) return true;
-  displayError(rEmptyPortNameError, queriedPortName);
-  return false;
+  const bool named = queriedPortName.length() > 0 && queriedPortMetaName.length() > 0;
+  return named || refuse(rEmptyPortNameError, queriedPortName);
 }
 
 bool orvCompoundCmd::parseListPorts(Parse& parse) {
@@ -84,7 +56,7 @@ bool orvCompoundCmd::parseListPorts(Parse& parse) {
   if (inputs || !outputs) listPortsFlags.setFlag(kListPortInputs);
   if (outputs || !inputs) listPortsFlags.setFlag(kListPortOutputs);
   if (!parse.db.isFlagSet("-cn")) return true;
-  listPortConnectedValue = flagBool(parse.db, "-cn");
+  listPortConnectedValue = parse.of("-cn").boolean();
   listPortsFlags.setFlag(kListPortConnected);
   return true;
 }
@@ -106,9 +78,10 @@ void orvCompoundCmd::queryPort(Compound& compound) {
   if (queryFlags.isFlagSet(kQueryPortMetaDataValue)) {
     setResult(fromUTF8(port->getPortMetaDataValue(queriedPortMetaName.asUTF8()).toChar()));
   } else if (queryFlags.isFlagSet(kQueryListPortChildren)) {
-    setChildren(*port);
+    const AddRefWrapper<PortList>& children = port->children();
+    if (children) setResult(namesOf(*children));
   } else if (queryFlags.isFlagSet(kQueryPortDefaultValues)) {
-    setDefaultValues(*port);
+    setDefaultValuesResult(*port);
   } else {
     setResult(fromUTF8(port->getDataType()->getName()));
   }

@@ -3,10 +3,6 @@
 
 namespace {
 
-constexpr KSyntax::KArgType kText = KSyntax::ArgString;
-constexpr KSyntax::KArgType kBool = KSyntax::ArgBoolean;
-constexpr KSyntax::KArgType kUnsigned = KSyntax::ArgUnsigned;
-
 // No flag is for a query or an edit alone, and none refuses another: each is read when it is there.
 constexpr FlagRow kFlags[] = {
     {"-c", "-create", kText},

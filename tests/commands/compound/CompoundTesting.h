@@ -1,19 +1,8 @@
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <string>
-#include <utility>
 
-#include "commands/compound/orvCompoundCmd.h"
-#include "platform/ORV_1_0/PortList.h"
-#include "plugin/pluginMessages.h"
-#include "standalone/graph/edits/FaultPoints.h"
-#include "standalone/graph/model/ContainerObject.h"
-#include "standalone/graph/storage/GraphText.h"
-#include "standalone/host/engine/HostAccess.h"
-#include "tests/support/GraphHost.h"
+#include "tests/commands/CommandTesting.h"
 
 /// The command, with what a line leaves in the object to look at. Each new object is the `last`
 /// until it is deleted.
@@ -49,18 +38,14 @@ class OpenCompoundCmd : public orvCompoundCmd {
   static inline OpenCompoundCmd* last = nullptr;
 };
 
-/// A graph "g" with the shipped runtimes. A message that a test does not take fails it.
-class CompoundTest : public testing::Test {
+/// Lines of `orvCompound` on the graph "g".
+class CompoundTest : public CommandTest {
  protected:
-  CompoundTest() : graph(host.graph("g")) {
-    registerMessages();
-    addCommand("orvCompound", orvCompoundCmd::creator);
-    addCommand("openCompound", OpenCompoundCmd::creator);
-    host.session().undoQueue().clear();
-  }
+  CompoundTest() { addCommand("openCompound", OpenCompoundCmd::creator); }
 
+  using CommandTest::addCommand;
   void addCommand(const char* name, KFnPlugin::Creator creator) {
-    host.session().registry().add({name, creator, orvCompoundCmd::createSyntax(), nullptr, {}});
+    addCommand(name, creator, orvCompoundCmd::createSyntax());
   }
 
   /// Runs `orvCompound "g" PATH FLAGS`, which must work; gives its result as JSON.
@@ -70,36 +55,12 @@ class CompoundTest : public testing::Test {
 
   /// Runs it as a line that must fail with `StatusFailure`; gives its messages.
   hosttest::Texts refusal(const std::string& path, const std::string& flags) {
-    EXPECT_EQ(host.status(line(path, flags)), StatusFailure) << flags;
-    return host.takeMessages();
+    return refusalOf(line(path, flags));
   }
 
   static std::string line(const std::string& path, const std::string& flags) {
     return "orvCompound \"g\" \"" + path + "\" " + flags;
   }
 
-  void undo() { host.run("undo"); }
-  void redo() { host.run("redo"); }
-
-  /// The whole graph as text.
-  std::string stored() const {
-    return orvlib::writeGraph(static_cast<const orvlib::ContainerObject&>(graph));
-  }
-
-  /// Runs the line, then undo, redo and undo: each gives the stored form that was there before.
-  void sweep(const std::string& path, const std::string& flags) {
-    const std::string before = stored();
-    run(path, flags);
-    const std::string after = stored();
-    EXPECT_NE(before, after) << flags;
-    undo();
-    EXPECT_EQ(stored(), before) << "undo of " << flags;
-    redo();
-    EXPECT_EQ(stored(), after) << "redo of " << flags;
-    undo();
-    EXPECT_EQ(stored(), before) << "second undo of " << flags;
-  }
-
-  hosttest::GraphHost host;
-  ORV_v1::Container& graph;
+  void sweep(const std::string& path, const std::string& flags) { sweepLine(line(path, flags)); }
 };

@@ -231,6 +231,33 @@ TEST_F(CompoundUndo, OfStatePortsThatTheLibraryRefusedRemovesNothing) {
   EXPECT_EQ(stored(), before);
 }
 
+TEST_F(CompoundUndo, WhatOtherLinesDidToStatePortsIsDoneAgain) {
+  const std::string before = stored();
+  run("/group", "-addStatePorts s t float");
+  run("/group", "-renamePort s u -setPortMetaDataValue t k v -setPortDataType u int");
+  run("/group", "-addNode core::math::negate -connectTo u");
+  run("/group", "-deletePort t");
+  const std::string after = stored();
+  for (int round = 0; round < 2; ++round) {
+    for (int i = 0; i < 4; ++i) undo();
+    EXPECT_EQ(stored(), before);
+    for (int i = 0; i < 4; ++i) redo();
+    EXPECT_EQ(stored(), after);
+  }
+}
+
+TEST_F(CompoundUndo, APortGetsItsNameBackFromTheStatePortThatTookIt) {
+  sweep("/group", "-renamePort size width -addStatePorts size t float");
+  sweep("/group", "-deletePort size -addStatePorts s size float");
+}
+
+TEST_F(CompoundUndo, APortGetsItsNameBackFromAStatePortInsideABracketOfTheUser) {
+  ASSERT_TRUE(graph.openChangeBracket(nullptr));
+  sweep("/group", "-setPortDefaultValues size 2 -deletePort size -addStatePorts size t float");
+  sweep("/group", "-renamePort size width -addStatePorts s size float -setMetaData k v");
+  EXPECT_TRUE(graph.closeChangeBracket(nullptr));
+}
+
 // A redo.
 
 TEST_F(CompoundUndo, ARedoThatFailsStillLeavesTheStagesBeforeItDone) {

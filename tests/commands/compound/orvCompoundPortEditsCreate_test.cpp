@@ -100,6 +100,19 @@ TEST_F(PortCreation, PortValuesAreOneTextAComponent) {
   EXPECT_EQ(run("/group", "-queryPortDefaultValues a"), R"(["0.25","0.5","1"])");
 }
 
+TEST_F(PortCreation, PortValuesThatCannotBeReadAreNotToldOf) {
+  for (const char* values : {"{1,2", "nonsense", "\"\"", "{1,2,3}"}) {
+    run("/group", std::string("-createInputPort a float -portValues ") + values);
+    EXPECT_EQ(run("/group", "-queryPortDefaultValues a"), "\"0\"") << values;
+    undo();
+  }
+}
+
+TEST_F(PortCreation, APortWithoutANameGetsOne) {
+  run("/group", "-createInputPort \"\" float -createOutputPort \"\" float");
+  EXPECT_EQ(run("/group", "-listPorts"), R"(["port","port1"])");
+}
+
 TEST_F(PortCreation, APortHasTheValueOfItsTypeWithoutPortValues) {
   run("/group", "-createInputPort a float");
   EXPECT_EQ(run("/group", "-queryPortDefaultValues a"), "\"0\"");

@@ -47,6 +47,18 @@ TEST_F(PublishedQueries, SavingWritesTheFileAndIsTrue) {
   EXPECT_TRUE(isThere("soft.yaml"));
 }
 
+TEST_F(PublishedQueries, SavingAnswersAfterAnAnnotation) {
+  run("/soft", "-addBackdrop frame -setAnnotationMetaDataValue frame color red");
+  EXPECT_EQ(query("-queryAnnotationMetaDataValue frame color"), "\"red\"");
+  EXPECT_EQ(query("-saveAs " + file("soft.yaml") + " -queryAnnotationMetaDataValue frame color"),
+            "true");
+}
+
+TEST_F(PublishedQueries, StatePortsAnswerAfterAPublishedGraph) {
+  EXPECT_EQ(query("-addStatePorts s t float -publishGraph 2bad \"\" \"\" \"\""), "true");
+  EXPECT_THAT(host.takeMessages(), ElementsAre(HasSubstr("2bad")));
+}
+
 TEST_F(PublishedQueries, WhatCannotBeSavedIsToldAndFalse) {
   EXPECT_EQ(query("-saveAs \"\""), "false");
   EXPECT_THAT(host.takeMessages(),

@@ -25,6 +25,13 @@ bool runDirect(NodeObject* node, Change change) {
 
 bool isText(const char* text) { return text && *text; }
 
+/// Whether the port of a compound is in no graph, and has nothing but its name and this type.
+bool isAsMade(const PortObject& port, const TypeRef& type) {
+  const PortObject* inner = port.twin();
+  return !port.node() && port.type().get() == type.get() && port.flags() == 0 && !port.ownValue() &&
+         port.metadata().empty() && !port.watchPoint() && inner && !inner->watchPoint();
+}
+
 FaultPoint kAddConnection("Port addConnection");
 FaultPoint kAddStatePorts("Compound addStatePorts");
 FaultPoint kRemovePort("Compound removePort");
@@ -87,20 +94,44 @@ void PortObject::clearFlag(ORV_v1::PortFlags bit) {
   });
 }
 
+/// The latest state ports that were removed, when both are gone and as they were made; else fresh
+/// ones are wanted, and the former ones will not be asked for any more.
+CompoundObject::StatePorts CompoundObject::takeFormerStatePorts(const std::string& inputName,
+                                                                const TypeRef& type) {
+  StatePorts ports;
+  if (formerStatePorts_.empty()) return ports;
+  ports = std::move(formerStatePorts_.back());
+  formerStatePorts_.pop_back();
+  if (isAsMade(*ports.input, type) && isAsMade(*ports.output, type) &&
+      ports.input->name() == inputName) {
+    return ports;
+  }
+  formerStatePorts_.clear();
+  return {};
+}
+
 bool CompoundObject::addStatePorts(const char* inputName, const char* outputName,
                                    const TypeRef& type) {
   if (kAddStatePorts.refuses() || !node_ || type == nullptr || !isOpenToEdits()) return false;
+  const auto freeName = [this](const char* wanted) {
+    return node_->uniquePortName(cleanName(isText(wanted) ? wanted : "state"));
+  };
+  StatePorts former = takeFormerStatePorts(freeName(inputName), type);
   const NodeFactory factory(node_->core());
-  const auto insert = [&](Transaction& edits, PortDirection direction, const char* wanted) {
-    const std::string name = node_->uniquePortName(cleanName(isText(wanted) ? wanted : "state"));
-    PortRef port = factory.makeCompoundPort(direction, name, type);
+  const auto insert = [&](Transaction& edits, PortDirection direction, const std::string& name,
+                          PortRef port) {
+    if (port == nullptr || port->name() != name) {
+      port = factory.makeCompoundPort(direction, name, type);
+    }
     const unsigned int end = node_->list(direction).count();
     return edits.run(InsertPort{{NodeRef(node_), port, end}}) ? port : PortRef();
   };
   return runDirect(node_, [&](Transaction& edits) {
-    const PortRef input = insert(edits, PortDirection::Input, inputName);
+    const PortRef input =
+        insert(edits, PortDirection::Input, freeName(inputName), std::move(former.input));
     if (input == nullptr) return false;
-    const PortRef output = insert(edits, PortDirection::Output, outputName);
+    const PortRef output =
+        insert(edits, PortDirection::Output, freeName(outputName), std::move(former.output));
     return output != nullptr && edits.run(PairState{input, output});
   });
 }
@@ -110,7 +141,17 @@ bool CompoundObject::removePort(const ORV_v1::AddRefWrapper<ORV_v1::Port>& port)
   if (kRemovePort.refuses() || !given || !node_ || given->node() != node_ || given->above()) {
     return false;
   }
-  return runDirect(node_, [&](Transaction& edits) { return runRemovePort(edits, *given); });
+  PortObject* outer = given->isInner() ? given->twin() : given;
+  const PortRef removed(outer);
+  const PortRef partner(outer->statePartner());
+  if (!runDirect(node_, [&](Transaction& edits) { return runRemovePort(edits, *given); })) {
+    return false;
+  }
+  if (partner != nullptr) {
+    formerStatePorts_.push_back(outer->isInput() ? StatePorts{removed, partner}
+                                                 : StatePorts{partner, removed});
+  }
+  return true;
 }
 
 }  // namespace orvlib

@@ -17,6 +17,7 @@ struct Plan {
   std::string name;  ///< Empty: any.
   unsigned nth = 0;
   unsigned asked = 0;
+  std::vector<std::string_view> names = {};  ///< that were asked, while any is armed
 };
 
 Plan& plan() {
@@ -41,7 +42,11 @@ FaultPoint::~FaultPoint() {
 
 bool FaultPoint::refusesArmed() const {
   Plan& armed = plan();
-  if (!armed.name.empty() && armed.name != name_) return false;
+  if (armed.name.empty()) {
+    armed.names.push_back(name_);
+  } else if (armed.name != name_) {
+    return false;
+  }
   return ++armed.asked == armed.nth;
 }
 
@@ -68,6 +73,8 @@ void FaultPoints::armAny(unsigned nth) { begin({"", nth}); }
 void FaultPoints::disarm() { detail::faultPointsArmed = 0; }
 
 unsigned FaultPoints::asked() { return plan().asked; }
+
+const std::vector<std::string_view>& FaultPoints::askedNames() { return plan().names; }
 
 bool FaultPoints::refused() { return plan().nth > 0 && plan().asked >= plan().nth; }
 

@@ -48,6 +48,9 @@ class ORV_EXPORT FaultPoints {
 
   /// How often what is armed was asked since then, refusals included. Stays until the next arming.
   static unsigned asked();
+
+  /// The names that were asked since any was armed, in that order; none after arming one by name.
+  static const std::vector<std::string_view>& askedNames();
   /// Whether the refusal that was armed has happened.
   static bool refused();
 };

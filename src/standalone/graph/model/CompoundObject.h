@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/ORV_1_0/AnnotationList.h"
 #include "platform/ORV_1_0/Compound.h"
 #include "platform/ORV_1_0/NodeList.h"
@@ -85,6 +87,12 @@ class ORV_EXPORT CompoundObject final : public WithMetadata<ORV_v1::Compound> {
   bool becomeReference();
   bool becomeLocal();
 
+  struct StatePorts {
+    PortRef input;
+    PortRef output;
+  };
+  StatePorts takeFormerStatePorts(const std::string& inputName, const TypeRef& type);
+
   NodeObject* node_;
   EmbeddedList<NodeListObject> nodes_;
   EmbeddedList<AnnotationListObject> annotations_;
@@ -95,6 +103,10 @@ class ORV_EXPORT CompoundObject final : public WithMetadata<ORV_v1::Compound> {
 
   /// Null unless it had content of its own before it became a reference.
   std::unique_ptr<FormerContent> former_;
+
+  /// What `removePort` took away, the latest last. `addStatePorts` brings back the same objects
+  /// when it is asked for the latest again: what was done to them since may be done again as well.
+  std::vector<StatePorts> formerStatePorts_;
 };
 
 }  // namespace orvlib

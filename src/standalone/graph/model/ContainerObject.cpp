@@ -85,7 +85,11 @@ void ContainerObject::endBracket(Client& client) {
 }
 
 void ContainerObject::release() {
-  if (brackets_ == 1) core_->undoOrder().undoWaiting();
+  if (brackets_ == 1) {
+    core_->undoOrder().undoWaiting();
+  } else {
+    core_->undoOrder().undoLatestWaiting();
+  }
   if (--brackets_ > 0) return;
   ++bracketRound_;
   if (!settling_) settle();

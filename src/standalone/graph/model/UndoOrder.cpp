@@ -32,11 +32,13 @@ bool UndoOrder::revert(Entry& entry) {
   return true;
 }
 
+bool UndoOrder::wait(Entry& entry) { return anyWaiting_ = entry.waiting_ = true; }
+
 bool UndoOrder::undo(Entry& entry, bool mayWait) {
   if (entry.waiting_) return false;
-  if (mayWait && isBelowOthers(entry)) return anyWaiting_ = entry.waiting_ = true;
+  if (mayWait && isBelowOthers(entry)) return wait(entry);
   Entry* next = entry.earlier_;
-  if (!revert(entry)) return false;
+  if (!revert(entry)) return mayWait && wait(entry);
   while (next->waiting_ && !isBelowOthers(*next)) {
     Entry& waiting = *next;
     next = next->earlier_;
@@ -52,6 +54,15 @@ void UndoOrder::undoWaiting() {
     Entry& entry = *next;
     next = next->earlier_;
     if (entry.waiting_) revert(entry);
+  }
+}
+
+void UndoOrder::undoLatestWaiting() {
+  while (anyWaiting_ && ends_.earlier_->waiting_) {
+    Entry& latest = *ends_.earlier_;
+    if (revert(latest)) continue;
+    wait(latest);
+    break;
   }
 }
 

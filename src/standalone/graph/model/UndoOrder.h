@@ -45,12 +45,16 @@ class ORV_EXPORT UndoOrder {
   /// The entry was done last, in that round of brackets.
   void done(Entry& entry, std::uint64_t round);
 
-  /// Takes the entry back, and then what waited for it; or has it wait, when `mayWait`. False, and
-  /// nothing changed, when it does not fit or is asked for already.
+  /// Takes the entry back, and then what waited for it. When `mayWait`, it waits if others are to
+  /// go first or if it does not fit yet: what is in its way may go within the same bracket. False,
+  /// and nothing changed, when it does not fit or is asked for already.
   bool undo(Entry& entry, bool mayWait);
 
   /// Takes back what waits, the latest first.
   void undoWaiting();
+
+  /// Tries again what waits, as long as it is what was done last.
+  void undoLatestWaiting();
 
  private:
   class Ends final : public Entry {
@@ -61,6 +65,7 @@ class ORV_EXPORT UndoOrder {
     return entry.later_ != &ends_ && entry.later_->round_ == entry.round_;
   }
   static bool revert(Entry& entry);
+  bool wait(Entry& entry);
 
   Ends ends_;
   bool anyWaiting_ = false;

@@ -130,4 +130,13 @@ TEST(FaultPoints, CannotBeArmedForTheAskingZero) {
   EXPECT_FALSE(first.refuses());
 }
 
+TEST(FaultPoints, TellWhichWereAskedWhileAnyIsArmed) {
+  const ArmedFault armed(1000);
+  first.refuses();
+  second.refuses();
+  first.refuses();
+  EXPECT_THAT(FaultPoints::askedNames(),
+              testing::ElementsAre("test.first", "test.second", "test.first"));
+}
+
 }  // namespace

@@ -1,5 +1,6 @@
 #include "standalone/graph/model/CompoundObject.h"
 
+#include "standalone/graph/types/ValueText.h"
 #include "tests/standalone/graph/GraphFixture.h"
 
 namespace orvlib {
@@ -99,6 +100,80 @@ TEST_F(CompoundObjectTest, LosesAStatePortAndKeepsTheOther) {
   using Handle = ORV_v1::AddRefWrapper<ORV_v1::Port>;
   EXPECT_TRUE(group->removePort(Handle(group->node()->port("is"))));
   EXPECT_EQ(group->node()->port("was")->statePartner(), nullptr);
+}
+
+class FormerStatePorts : public CompoundObjectTest {
+ protected:
+  FormerStatePorts()
+      : group_(addCompound(top(), "group")), float_(graph_.core().findType("float")) {
+    EXPECT_TRUE(group_->addStatePorts("was", "is", float_));
+    was_ = PortRef(port("was"));
+    is_ = PortRef(port("is"));
+  }
+
+  PortObject* port(const char* name) { return group_->node()->port(name); }
+  void remove(const char* name) {
+    EXPECT_TRUE(group_->removePort(ORV_v1::AddRefWrapper<ORV_v1::Port>(port(name))));
+  }
+  void removeBoth() {
+    remove("is");
+    remove("was");
+  }
+
+  CompoundObject* group_;
+  TypeRef float_;
+  PortRef was_, is_;
+};
+
+TEST_F(FormerStatePorts, ComeBackAsTheSameObjectsWhenTheyAreAskedForAgain) {
+  removeBoth();
+  ASSERT_TRUE(group_->addStatePorts("was", "is", float_));
+  EXPECT_EQ(port("was"), was_.get());
+  EXPECT_EQ(port("is"), is_.get());
+  EXPECT_EQ(was_->statePartner(), is_.get());
+}
+
+TEST_F(FormerStatePorts, ComeBackInTheReverseOrderOfTheirRemoval) {
+  ASSERT_TRUE(group_->addStatePorts("then", "now", float_));
+  const PortRef then(port("then"));
+  remove("now");
+  remove("then");
+  removeBoth();
+  ASSERT_TRUE(group_->addStatePorts("was", "is", float_));
+  ASSERT_TRUE(group_->addStatePorts("then", "now", float_));
+  EXPECT_EQ(port("was"), was_.get());
+  EXPECT_EQ(port("then"), then.get());
+}
+
+TEST_F(FormerStatePorts, AreOfNoUseForOtherNames) {
+  removeBoth();
+  ASSERT_TRUE(group_->addStatePorts("then", "is", float_));
+  EXPECT_NE(port("then"), was_.get());
+  EXPECT_STREQ(was_->getName(), "was");
+}
+
+TEST_F(FormerStatePorts, AreOfNoUseForAnotherType) {
+  removeBoth();
+  ASSERT_TRUE(group_->addStatePorts("was", "is", graph_.core().findType("int")));
+  EXPECT_NE(port("was"), was_.get());
+  EXPECT_STREQ(port("was")->getDataType()->getName(), "int");
+}
+
+TEST_F(FormerStatePorts, AreOfNoUseWhenOneOfThemIsStillThere) {
+  remove("is");
+  ASSERT_TRUE(group_->addStatePorts("was", "is", float_));
+  EXPECT_EQ(port("was"), was_.get());
+  EXPECT_EQ(was_->statePartner(), nullptr);
+  EXPECT_EQ(port("was1")->statePartner(), port("is"));
+}
+
+TEST_F(FormerStatePorts, AreOfNoUseWithAValueOfTheirOwn) {
+  ASSERT_TRUE(edits_.run(
+      SetPortValue{was_, std::make_unique<const Value>(Value(zeroValue(was_->valueType())))}));
+  removeBoth();
+  ASSERT_TRUE(group_->addStatePorts("was", "is", float_));
+  EXPECT_NE(port("was"), was_.get());
+  EXPECT_EQ(port("was")->ownValue(), nullptr);
 }
 
 TEST_F(CompoundObjectTest, OutlivesItsNode) {

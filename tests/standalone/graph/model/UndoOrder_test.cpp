@@ -87,12 +87,54 @@ TEST_F(UndoOrderTest, ASecondUndoOfWhatWaitsIsRefused) {
   EXPECT_FALSE(undo(a_));
 }
 
-TEST_F(UndoOrderTest, WhatDoesNotFitStaysDoneAndIsAskedAgain) {
+TEST_F(UndoOrderTest, WhatDoesNotFitWithoutABracketStaysDoneAndIsAskedAgain) {
   order_.done(a_, 1);
   a_.fits = false;
-  EXPECT_FALSE(undo(a_));
+  EXPECT_FALSE(order_.undo(a_, false));
+  EXPECT_FALSE(a_.isWaiting());
+  a_.fits = true;
+  EXPECT_TRUE(order_.undo(a_, false));
+  EXPECT_THAT(undone_, ElementsAre("a"));
+}
+
+TEST_F(UndoOrderTest, WhatDoesNotFitYetIsTakenBackWithTheBracket) {
+  order_.done(a_, 1);
+  a_.fits = false;
+  EXPECT_TRUE(undo(a_));
+  EXPECT_TRUE(a_.isWaiting());
+  a_.fits = true;
+  order_.undoWaiting();
+  EXPECT_THAT(undone_, ElementsAre("a"));
+}
+
+TEST_F(UndoOrderTest, WhatNeverFitsStaysDoneAndIsAskedAgain) {
+  order_.done(a_, 1);
+  a_.fits = false;
+  EXPECT_TRUE(undo(a_));
+  order_.undoWaiting();
+  EXPECT_FALSE(a_.isWaiting());
   a_.fits = true;
   EXPECT_TRUE(undo(a_));
+  EXPECT_THAT(undone_, ElementsAre("a"));
+}
+
+TEST_F(UndoOrderTest, TheLatestThatWaitAreTriedAgainAheadOfTheEndOfTheBracket) {
+  for (Command* command : {&a_, &b_, &c_}) order_.done(*command, 1);
+  c_.fits = false;
+  for (Command* command : {&a_, &b_, &c_}) EXPECT_TRUE(undo(*command));
+  order_.undoLatestWaiting();
+  EXPECT_THAT(undone_, IsEmpty());
+  EXPECT_TRUE(c_.isWaiting());
+  c_.fits = true;
+  order_.undoLatestWaiting();
+  EXPECT_THAT(undone_, ElementsAre("c", "b", "a"));
+}
+
+TEST_F(UndoOrderTest, NothingIsTriedAgainBelowWhatIsNotAskedFor) {
+  for (Command* command : {&a_, &b_}) order_.done(*command, 1);
+  EXPECT_TRUE(undo(a_));
+  order_.undoLatestWaiting();
+  EXPECT_THAT(undone_, IsEmpty());
 }
 
 TEST_F(UndoOrderTest, WhatWaitsAndThenDoesNotFitHoldsUpNothing) {
