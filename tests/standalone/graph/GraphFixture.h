@@ -38,6 +38,13 @@ class GraphFixture : public testing::Test {
     return insert(level, factory().makeCompound(std::move(name)))->compound();
   }
 
+  /// That many compounds in each other; gives the innermost, or the level for none.
+  CompoundObject* addNested(CompoundObject& level, const std::string& name, unsigned int count) {
+    CompoundObject* innermost = &level;
+    for (; count > 0; --count) innermost = addCompound(*innermost, name);
+    return innermost;
+  }
+
   /// A port of a compound, by its outer face.
   PortObject* addPort(CompoundObject& compound, PortDirection direction, std::string_view name,
                       std::string_view type) {

@@ -47,15 +47,19 @@ struct CreateCompoundCommand::Rep {
 
   bool run(Transaction& edits) {
     CompoundObject* outside = link.level();
-    if (!outside || outside->depth() >= CompoundObject::kDeepest) return false;
+    if (!outside) return false;
     for (const NodeRef& node : nodes) {
       if (node->parent() != outside) return false;
     }
     const NodeFactory factory(outside->node()->core());
     created = factory.makeCompound(outside->nodes().uniqueName(cleanName(name)));
     CompoundObject& inside = *created->compound();
+    if (!outside->hasRoomFor(*created)) return false;
     const unsigned int end = outside->nodes().count();
     if (!edits.run(InsertNode{{CompoundRef(outside), created, end}})) return false;
+    for (const NodeRef& node : nodes) {
+      if (!inside.hasRoomFor(*node)) return false;
+    }
     if (!MoveIntoCompound(edits, inside, nodes).run()) return false;
     for (const AnnotationRef& annotation : annotations) {
       if (!runMoveAnnotation(edits, *outside, inside, annotation)) return false;

@@ -84,7 +84,7 @@ struct NodeCommand::Rep {
     const NodeFactory factory(level.node()->core());
     const std::string_view base = shortName(request.definition->getName());
     const NodeRef node = factory.make(*request.definition, level.nodes().uniqueName(base));
-    return node != nullptr && insert(edits, request, node) &&
+    return node != nullptr && level.hasRoomFor(*node) && insert(edits, request, node) &&
            (request.connectTo.empty() || runConnectTo(edits, *node, request.connectTo));
   }
 

@@ -83,10 +83,11 @@ struct PasteCommand::Rep {
 
   bool run(Transaction& edits) {
     CompoundObject* level = link.level();
-    if (!level || level->depth() >= CompoundObject::kDeepest) return false;
+    if (!level) return false;
     selection = Selection();
     if (readSelection(Clipboard::text(), level->node()->core(), selection)) return false;
     CompoundObject& carrier = *selection.carrier->compound();
+    if (!level->hasRoomForContentOf(carrier)) return false;
     return runMoveNodes(edits, carrier, *level) && runMoveAnnotations(edits, carrier, *level) &&
            runConnectInputs(edits, *level);
   }

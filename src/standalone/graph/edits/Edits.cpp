@@ -24,10 +24,15 @@ bool isFree(const CompoundObject& level, std::string_view name) {
   return level.node() && !level.nodes().find(name);
 }
 
+/// No edit nests compounds deeper than a stored graph may have them.
+bool hasRoom(const CompoundObject& level, const NodeObject& node) {
+  return level.hasRoomFor(node, CompoundObject::kDeepestStored);
+}
+
 }  // namespace
 
 bool NodePlace::put() {
-  if (node->parent() || !isFree(*level, node->name())) return false;
+  if (node->parent() || !isFree(*level, node->name()) || !hasRoom(*level, *node)) return false;
   Mutator::insertNode(*level, *node, index);
   return true;
 }
@@ -39,7 +44,7 @@ bool NodePlace::take() {
 }
 
 bool MoveNode::apply() {
-  if (!node->parent() || !isFree(*level, name)) return false;
+  if (!node->parent() || !isFree(*level, name) || !hasRoom(*level, *node)) return false;
   const CompoundRef former(node->parent());
   std::string formerName = node->name();
   const unsigned int formerIndex = Mutator::removeNode(*node);

@@ -43,9 +43,22 @@ class ORV_EXPORT CompoundObject final : public WithMetadata<ORV_v1::Compound> {
   /// What comes back when it is no longer a reference; null when that is what it holds.
   FormerContent* former() const { return former_.get(); }
 
-  /// How many levels are above; compounds are made and pasted down to `kDeepest`.
+  /// How many levels are above. Commands put compounds down to `kDeepest`; nothing puts one below
+  /// `kDeepestStored`, to which graphs are read.
   unsigned int depth() const;
   static constexpr unsigned int kDeepest = 1000;
+  static constexpr unsigned int kDeepestStored = 5000;
+
+  /// How many levels of compounds are below. Looks through all of them.
+  unsigned int countHeight() const;
+
+  /// Whether these are so many at most. Looks through them only when they may be more.
+  bool isNoHigherThan(unsigned int levels) const;
+
+  /// Whether the node, with all that is in it, may come into this level, or the nodes of `other`
+  /// may, without any compound being deeper than `deepest`. True for what holds no compound.
+  bool hasRoomFor(const NodeObject& node, unsigned int deepest = kDeepest) const;
+  bool hasRoomForContentOf(const CompoundObject& other) const;
 
   /// Whether the metadata key "locked" is "true".
   bool isLocked() const;
@@ -84,6 +97,9 @@ class ORV_EXPORT CompoundObject final : public WithMetadata<ORV_v1::Compound> {
   friend class NodeObject;
   ORV_v1::Container* clientContainer() const override;
   ORV_v1::ReferenceCounted* clientObject() override { return this; }
+  /// A child of that height has come into the level.
+  void raiseHeight(unsigned int childHeight);
+
   bool becomeReference();
   bool becomeLocal();
 
@@ -100,6 +116,10 @@ class ORV_EXPORT CompoundObject final : public WithMetadata<ORV_v1::Compound> {
   EmbeddedList<PortListObject> outputs_;
   std::string origin_;
   bool reference_ = false;
+
+  /// At least as many levels of compounds as there are below. It is raised by what comes in and
+  /// stays when something goes; only a count lowers it.
+  mutable unsigned int heightBound_ = 0;
 
   /// Null unless it had content of its own before it became a reference.
   std::unique_ptr<FormerContent> former_;

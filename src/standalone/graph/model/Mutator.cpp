@@ -69,6 +69,7 @@ void Mutator::insertNode(CompoundObject& level, NodeObject& node, unsigned int i
   node.core().watches().bringBack(node);
   level.nodes_.insert(index, &node);
   node.parent_ = &level;
+  if (node.compound_) level.raiseHeight(node.compound_->heightBound_);
   touch(level.node_, kContentChange);
   if (ContainerObject* container = node.container()) container->nodesEntered();
 }

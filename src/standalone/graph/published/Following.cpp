@@ -62,7 +62,8 @@ class Follower {
     const NodeRef instance = definition == nullptr
                                  ? NodeRef()
                                  : makeInstance(compound_.node()->core(), *definition, "instance");
-    if (instance == nullptr || !run(*instance)) tell("stays as it was, as it cannot follow");
+    const bool fits = instance != nullptr && mayHold(compound_, *instance->compound());
+    if (!fits || !run(*instance)) tell("stays as it was, as it cannot follow");
   }
 
  private:

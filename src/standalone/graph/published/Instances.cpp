@@ -9,6 +9,10 @@
 namespace orvlib {
 namespace {
 
+/// How many references lie inside each other at most. Each is made by the reading of the one around
+/// it, for which there must be room.
+constexpr std::size_t kMostNested = 250;
+
 /// The published compounds whose instances are being made, each inside of the one before.
 struct Making {
   std::vector<std::string_view> open;
@@ -33,14 +37,6 @@ class OpenInstance {
   OpenInstance& operator=(const OpenInstance&) = delete;
 };
 
-void report(const GraphCore& core, const std::string& name, const std::string& reason) {
-  const RuntimeRegistry* registry = RuntimeRegistry::current();
-  const ORV_v1::Runtime* runtime = registry ? registry->find(core.runtime()) : nullptr;
-  if (!runtime) return;
-  const std::string file = ORV_v1::GraphAccess::loaded(*runtime).compoundFile(name);
-  registry->report({{file, 0, 0, "there can be no '" + name + "': " + reason}});
-}
-
 void takeValues(const NodeObject& from, NodeObject& to) {
   for (PortListObject* list : {&to.inputList(), &to.outputList()}) {
     for (PortObject* port : list->items()) {
@@ -55,21 +51,33 @@ void takeValues(const NodeObject& from, NodeObject& to) {
 
 }  // namespace
 
+void reportNoInstance(const GraphCore& core, const std::string& name, const std::string& reason) {
+  const RuntimeRegistry* registry = RuntimeRegistry::current();
+  const ORV_v1::Runtime* runtime = registry ? registry->find(core.runtime()) : nullptr;
+  if (!runtime) return;
+  const std::string file = ORV_v1::GraphAccess::loaded(*runtime).compoundFile(name);
+  registry->report({{file, 0, 0, "there can be no '" + name + "': " + reason}});
+}
+
 NodeRef makeInstance(GraphCore& core, ORV_v1::NodeDefinition& definition, std::string name) {
   const auto description = ORV_v1::GraphAccess::sharedDescription(definition);
   const bool inside = std::ranges::find(making().open, description->name) != making().open.end();
   if (inside) making().looped = true;
   if (inside) return {};
+  if (making().open.size() == kMostNested) {
+    reportNoInstance(core, description->name, "too many references are nested");
+    return {};
+  }
   const OpenInstance open(description->name);
   NodeRef node = NodeFactory(core).makeCompound(std::move(name));
   const auto error = readContent(description->content, *node->compound());
   if (making().looped) {
-    if (making().open.size() == 1) report(core, description->name, "it holds itself");
+    if (making().open.size() == 1) reportNoInstance(core, description->name, "it holds itself");
     return {};
   }
   if (error) {
-    report(core, description->name,
-           "line " + std::to_string(error->line) + " of its content: " + error->reason);
+    reportNoInstance(core, description->name,
+                     "line " + std::to_string(error->line) + " of its content: " + error->reason);
     return {};
   }
   Mutator::setOrigin(*node->compound(), description->name, true);
@@ -90,10 +98,14 @@ bool holdsPublishedContent(const CompoundObject& compound) {
   if (definition == nullptr) return true;
   const NodeObject& node = *compound.node();
   const NodeRef instance = makeInstance(node.core(), *definition, node.name());
-  if (instance == nullptr) return true;
+  if (instance == nullptr || !mayHold(compound, *instance->compound())) return true;
   takeValues(node, *instance);
   Mutator::setOrigin(*instance->compound(), compound.origin(), compound.isReference());
   return writeContent(*instance->compound()) == writeContent(compound);
+}
+
+bool mayHold(const CompoundObject& compound, const CompoundObject& content) {
+  return compound.hasRoomForContentOf(content) || content.countHeight() <= compound.countHeight();
 }
 
 bool refersTo(const CompoundObject& compound, std::string_view name) {

@@ -63,7 +63,7 @@ bool CompoundObject::setIsReferenced(bool referenced) {
 bool CompoundObject::becomeReference() {
   const bool mayChange = isInOpenLevel(*this) && isOpenToEdits();
   const NodeRef instance = mayChange ? newInstance(*this) : NodeRef();
-  if (instance == nullptr) return false;
+  if (instance == nullptr || !mayHold(*this, *instance->compound())) return false;
   auto former = std::make_unique<FormerContent>();
   TakenLevel fresh;
   const bool done = runWhole(*node_, [&](Transaction& edits) {
@@ -78,6 +78,7 @@ bool CompoundObject::becomeReference() {
 
 bool CompoundObject::becomeLocal() {
   if (!isInOpenLevel(*this)) return false;
+  if (former_ && !mayHold(*this, *former_->level.carrier->compound())) return false;
   TakenLevel shown;
   LostWires lost;
   const bool done = runWhole(*node_, [&](Transaction& edits) {

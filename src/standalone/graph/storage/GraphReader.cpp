@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "standalone/graph/model/NameRules.h"
+#include "standalone/graph/published/Instances.h"
 #include "standalone/graph/storage/StoredFormat.h"
 
 namespace orvlib {
@@ -24,6 +25,14 @@ struct GraphReader::Statement {
 namespace {
 
 constexpr std::size_t kAny = ~std::size_t{0};
+
+/// How many compounds there are at most around what is in a level, the outermost block not counted.
+/// What goes through the levels goes through them by calls, for which there must be room.
+constexpr std::size_t kDeepestLevel = CompoundObject::kDeepestStored;
+
+std::string tooDeep() {
+  return "compounds are nested more than " + std::to_string(kDeepestLevel) + " deep";
+}
 
 /// Takes out all that is in a level, with its ports.
 void clearLevel(CompoundObject& level) {
@@ -175,11 +184,24 @@ bool GraphReader::readNode() {
   return true;
 }
 
+/// The levels that are open are not in each other yet.
+bool GraphReader::isTooDeep(const NodeObject& node) const {
+  const CompoundObject* inside = node.compound();
+  const std::size_t above = levels_.size();
+  if (!inside) return false;
+  return above > kDeepestLevel ||
+         !inside->isNoHigherThan(static_cast<unsigned int>(kDeepestLevel - above));
+}
+
 NodeRef GraphReader::makeNode(StatedDefinition& definition, std::string name) {
   const std::size_t ordinal = ordinal_++;
   NodeRef node;
   if (definition.current != nullptr && !kept_.contains(ordinal)) {
     node = factory_.make(*definition.current, name);
+    if (node != nullptr && isTooDeep(*node)) {
+      reportNoInstance(node->core(), node->compound()->origin(), tooDeep());
+      node = NodeRef();
+    }
   }
   if (node == nullptr) return factory_.makePlaceholder(*definition.stated, std::move(name));
   definition.compareWith(*node);
@@ -206,9 +228,7 @@ void GraphReader::makeBare(NodeObject& instance, const StatedDefinition& definit
 bool GraphReader::readCompound() {
   if (!isNewName(words()[1])) return false;
   // The outermost level is none that is nested.
-  if (levels_.size() > kDeepestLevel) {
-    return fail("compounds are nested more than " + std::to_string(kDeepestLevel) + " deep");
-  }
+  if (levels_.size() > kDeepestLevel) return fail(tooDeep());
   levels_.push_back(factory_.makeCompound(std::string(words()[1])));
   node_ = levels_.back().get();
   subject_ = kCompound;

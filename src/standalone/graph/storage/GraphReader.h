@@ -86,6 +86,7 @@ class GraphReader {
   const Words& words() const { return lines_.words(); }
   CompoundObject& level() { return *levels_.back()->compound(); }
   bool isNewName(std::string_view name);
+  bool isTooDeep(const NodeObject& node) const;
   NodeRef makeNode(StatedDefinition& definition, std::string name);
   static void makeBare(NodeObject& instance, const StatedDefinition& definition);
   void enter(const NodeRef& node, SubjectKind kind);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,10 +17,6 @@ constexpr std::string_view kSelectionFormat = "vesk-nodes";
 constexpr std::string_view kGraphBlock = "graph";
 constexpr std::string_view kContentBlock = "content";
 constexpr std::string_view kSelectionBlock = "nodes";
-
-/// How many compounds there are at most around what is in a level, the outermost block not counted.
-/// What goes through the levels goes through them by calls, for which there must be room.
-constexpr std::size_t kDeepestLevel = 5000;
 
 /// A value in the reason of an error.
 inline std::string inQuotes(std::string_view text) { return "'" + std::string(text) + "'"; }

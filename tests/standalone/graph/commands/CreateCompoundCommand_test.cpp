@@ -125,5 +125,54 @@ TEST_F(CreateCompoundCommandTest, HasNoPathBeforeAndAfterUndo) {
   EXPECT_STREQ(command_.getCreatedCompoundPath().toChar(), "");
 }
 
+class CreateCompoundNesting : public CommandFixture {
+ protected:
+  static constexpr unsigned int kDeepest = CompoundObject::kDeepest;
+
+  /// Around what is at that path, at its level.
+  bool wrap(const char* level, const char* name, const char* created) {
+    ORV_v1::CreateCompoundCommand command;
+    command.setParentCompound(&graph_, level);
+    command.setNewCompoundName(created);
+    return command.addNodeToMove(name) && command.doit();
+  }
+};
+
+TEST_F(CreateCompoundNesting, WhatMovesInIsNestedAsDeepAsWhatIsMade) {
+  add(top(), "core::math::add", "n0");
+  for (unsigned int i = 0; i < kDeepest; ++i) {
+    const std::string former = "n" + std::to_string(i);
+    ASSERT_TRUE(wrap("/", former.c_str(), ("n" + std::to_string(i + 1)).c_str())) << i;
+  }
+  const std::string before = text();
+  EXPECT_FALSE(wrap("/", "n1000", "more"));
+  EXPECT_EQ(text(), before);
+  EXPECT_EQ(top().countHeight(), kDeepest);
+  ContainerObject other("standard");
+  EXPECT_FALSE(readGraph(before, other));
+}
+
+TEST_F(CreateCompoundNesting, NothingIsMadeBelowTheDeepest) {
+  CompoundObject* innermost = addNested(top(), "c", kDeepest);
+  add(*innermost, "core::math::add", "sum");
+  const std::string before = text();
+  const std::string path = innermost->node()->fullPath();
+  EXPECT_FALSE(wrap(path.c_str(), "sum", "more"));
+  EXPECT_EQ(text(), before);
+}
+
+TEST_F(CreateCompoundNesting, OneThatIsHighForTheLevelStaysWhereItIs) {
+  CompoundObject* low = addNested(top(), "c", 600);
+  CompoundObject* innermost = addNested(*low, "d", 400);
+  const std::string before = text();
+  const std::string path = low->node()->fullPath();
+  EXPECT_FALSE(wrap(path.c_str(), "d", "more"));
+  EXPECT_EQ(text(), before);
+  const CompoundRef level(innermost->node()->parent());
+  ASSERT_TRUE(edits_.run(RemoveNode{{level, NodeRef(innermost->node()), 0}}));
+  EXPECT_TRUE(wrap(path.c_str(), "d", "more"));
+  EXPECT_EQ(top().countHeight(), kDeepest);
+}
+
 }  // namespace
 }  // namespace orvlib

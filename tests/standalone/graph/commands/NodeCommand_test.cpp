@@ -1,6 +1,7 @@
 #include "platform/ORV_1_0/NodeCommand.h"
 
 #include "tests/standalone/graph/commands/CommandFixture.h"
+#include "tests/standalone/graph/published/PublishedFixture.h"
 
 namespace orvlib {
 namespace {
@@ -103,6 +104,34 @@ TEST_F(NodeCommandTest, NamesOfWhatIsUndoneAreNotGiven) {
   ASSERT_TRUE(command_.redo());
   ASSERT_TRUE(command_.undo());
   EXPECT_EQ(created(), Texts{});
+}
+
+/// core::soft is published with two levels inside of it.
+class NodeCommandNesting : public PublishedFixture {
+ protected:
+  NodeCommandNesting() {
+    addNested(*soft_, "inner", 2);
+    publish();
+  }
+  bool addAt(unsigned int depth) {
+    CompoundObject* level = addNested(top(), "c", depth);
+    before_ = stored();
+    return command_.createNode(level->node()->asCompound(), "core::soft", nullptr) &&
+           command_.redo();
+  }
+
+  ORV_v1::NodeCommand command_;
+  std::string before_;
+};
+
+TEST_F(NodeCommandNesting, APublishedCompoundReachesDownToTheDeepestLevel) {
+  EXPECT_TRUE(addAt(CompoundObject::kDeepest - 3));
+  EXPECT_EQ(top().countHeight(), CompoundObject::kDeepest);
+}
+
+TEST_F(NodeCommandNesting, APublishedCompoundBelowWhichThereIsNoRoomIsRefused) {
+  EXPECT_FALSE(addAt(CompoundObject::kDeepest - 2));
+  EXPECT_EQ(stored(), before_);
 }
 
 }  // namespace

@@ -95,5 +95,38 @@ TEST_F(PasteCommandTest, RefusesAClipboardWithoutAGraph) {
   EXPECT_EQ(text(), before);
 }
 
+class PasteNesting : public PasteCommandTest {
+ protected:
+  /// Ten levels of compounds are on the clipboard, and as many as that are put in each other.
+  PasteNesting() {
+    addNested(top(), "ten", 10);
+    copy({"ten"});
+  }
+  bool pasteAt(unsigned int depth) {
+    const std::string path =
+        addNested(top(), "c" + std::to_string(depth), depth)->node()->fullPath();
+    before_ = text();
+    return command_.setParentCompound(&graph_, path.c_str()) && command_.doit();
+  }
+
+  std::string before_;
+};
+
+TEST_F(PasteNesting, ReachesDownToTheDeepestLevel) {
+  ASSERT_TRUE(pasteAt(CompoundObject::kDeepest - 10));
+  EXPECT_EQ(top().countHeight(), CompoundObject::kDeepest);
+  expectReversible(command_, before_);
+}
+
+TEST_F(PasteNesting, BelowTheDeepestLevelIsRefused) {
+  EXPECT_FALSE(pasteAt(CompoundObject::kDeepest - 9));
+  EXPECT_EQ(text(), before_);
+}
+
+TEST_F(PasteNesting, NodesWithoutALevelAreNotNested) {
+  copy({"a"});
+  EXPECT_TRUE(pasteAt(CompoundObject::kDeepest));
+}
+
 }  // namespace
 }  // namespace orvlib

@@ -1,6 +1,7 @@
 #include "standalone/graph/edits/Edits.h"
 
 #include "standalone/graph/edits/Transaction.h"
+#include "standalone/graph/storage/GraphText.h"
 #include "tests/standalone/graph/GraphFixture.h"
 
 namespace orvlib {
@@ -297,6 +298,43 @@ TEST_F(Edits, PutAWatchPointOnAPort) {
   EXPECT_TRUE(watch->isEnabled());
   EXPECT_EQ(watch->port(), nullptr);
   EXPECT_TRUE(port->getWatchPoint() == nullptr);
+}
+
+/// No edit nests deeper than a stored graph is read, so whatever edits make can be read again.
+class EditsOfNesting : public GraphFixture {
+ protected:
+  static constexpr unsigned int kDeepest = CompoundObject::kDeepestStored;
+  EditsOfNesting() {
+    addNested(top(), "c", kDeepest - 1);
+    addNested(top(), "d", 2);
+    before_ = writeGraph(graph_);
+  }
+  NodeRef node(const char* path) { return NodeRef(graph_.findNode(path)); }
+
+  std::string before_;
+};
+
+TEST_F(EditsOfNesting, WhatIsDeepestIsReadAgain) {
+  ASSERT_TRUE(edits_.run(MoveNode{node("/c"), CompoundRef(graph_.findCompound("/d")), 0, "c"}));
+  EXPECT_EQ(top().countHeight(), kDeepest);
+  ContainerObject other("standard");
+  EXPECT_FALSE(readGraph(writeGraph(graph_), other));
+  EXPECT_EQ(other.top().compound()->countHeight(), kDeepest);
+}
+
+TEST_F(EditsOfNesting, MovingDeeperIsRefused) {
+  const CompoundRef level(graph_.findCompound("/d/d"));
+  EXPECT_FALSE(edits_.run(MoveNode{node("/c"), level, 0, "c"}));
+  EXPECT_EQ(writeGraph(graph_), before_);
+}
+
+TEST_F(EditsOfNesting, ComingBackDeeperIsRefused) {
+  const NodeRef away = node("/c");
+  Transaction removal;
+  ASSERT_TRUE(removal.run(RemoveNode{{CompoundRef(&top()), away, 0}}));
+  EXPECT_FALSE(edits_.run(InsertNode{{CompoundRef(graph_.findCompound("/d/d")), away, 0}}));
+  ASSERT_TRUE(removal.revert());
+  EXPECT_EQ(writeGraph(graph_), before_);
 }
 
 }  // namespace

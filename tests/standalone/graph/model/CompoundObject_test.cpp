@@ -204,5 +204,66 @@ TEST_F(CompoundObjectTest, CollectsNodesInListsOfACaller) {
   EXPECT_EQ(visited, 1u);
 }
 
+class Nesting : public GraphFixture {
+ protected:
+  bool hasRoom(const CompoundObject& level, const CompoundObject& compound, unsigned int deepest) {
+    return level.hasRoomFor(*compound.node(), deepest);
+  }
+  void remove(CompoundObject& compound) {
+    ASSERT_TRUE(edits_.run(
+        RemoveNode{{CompoundRef(compound.node()->parent()), NodeRef(compound.node()), 0}}));
+  }
+};
+
+TEST_F(Nesting, IsCountedFromTheTopAndFromBelow) {
+  EXPECT_EQ(top().countHeight(), 0u);
+  add(*addNested(top(), "low", 2), "core::math::add", "sum");
+  CompoundObject* innermost = addNested(top(), "high", 5);
+  EXPECT_EQ(innermost->depth(), 5u);
+  EXPECT_EQ(innermost->countHeight(), 0u);
+  EXPECT_EQ(graph_.findCompound("/high")->countHeight(), 4u);
+  EXPECT_EQ(top().countHeight(), 5u);
+}
+
+TEST_F(Nesting, HasRoomDownToTheDeepestLevel) {
+  addNested(top(), "high", 5);
+  CompoundObject* low = addNested(top(), "low", 3);
+  EXPECT_TRUE(hasRoom(*low, *graph_.findCompound("/high"), 8));
+  EXPECT_FALSE(hasRoom(*low, *graph_.findCompound("/high"), 7));
+  EXPECT_FALSE(hasRoom(*low, *graph_.findCompound("/high"), 3));
+  EXPECT_TRUE(hasRoom(*low, *graph_.findCompound("/high/high/high"), 6));
+  EXPECT_TRUE(low->hasRoomFor(*add(top(), "core::math::add", "sum"), 0));
+}
+
+TEST_F(Nesting, HasRoomAgainForWhatHasBecomeLower) {
+  CompoundObject* innermost = addNested(top(), "high", 5);
+  CompoundObject* low = addNested(top(), "low", 3);
+  remove(*innermost);
+  EXPECT_TRUE(hasRoom(*low, *graph_.findCompound("/high"), 7));
+  addCompound(*graph_.findCompound("/high/high/high/high"), "again");
+  EXPECT_FALSE(hasRoom(*low, *graph_.findCompound("/high"), 7));
+}
+
+TEST_F(Nesting, IsThatOfWhateverComesInAtOnce) {
+  CompoundObject* low = addNested(top(), "low", 3);
+  const NodeRef away = factory().makeCompound("away");
+  addNested(*away->compound(), "high", 4);
+  insert(*low, away);
+  EXPECT_FALSE(hasRoom(top(), *graph_.findCompound("/low"), 7));
+  EXPECT_TRUE(hasRoom(top(), *graph_.findCompound("/low"), 8));
+}
+
+TEST_F(Nesting, HasRoomForTheContentOfAnotherDownToTheDeepestLevel) {
+  constexpr unsigned int kDeepest = CompoundObject::kDeepest;
+  CompoundObject* innermost = addNested(top(), "deep", kDeepest);
+  CompoundObject* flat = addCompound(top(), "flat");
+  add(*flat, "core::math::add", "sum");
+  EXPECT_TRUE(innermost->hasRoomForContentOf(*flat));
+  addCompound(*flat, "inner");
+  EXPECT_FALSE(innermost->hasRoomForContentOf(*flat));
+  EXPECT_TRUE(innermost->node()->parent()->hasRoomForContentOf(*flat));
+  EXPECT_FALSE(addCompound(*innermost, "deeper")->hasRoomForContentOf(*innermost));
+}
+
 }  // namespace
 }  // namespace orvlib

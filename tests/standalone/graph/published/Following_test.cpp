@@ -133,5 +133,20 @@ TEST_F(Following, FormerContentComesBackAfterIt) {
   EXPECT_TRUE(soft_->nodes().find("twice"));
 }
 
+TEST_F(Following, AReferenceBelowWhichThereIsNoRoomStaysAsItWas) {
+  Transaction wires;
+  for (const char* path : {"/one.size", "/one.result"}) {
+    ASSERT_TRUE(runDisconnectAll(wires, *port(path)));
+  }
+  CompoundObject* level = addNested(top(), "c", CompoundObject::kDeepest - 1);
+  ASSERT_TRUE(edits_.run(MoveNode{NodeRef(one_->node()), CompoundRef(level), 0, "one"}));
+  addCompound(*soft_, "inner");
+  EXPECT_EQ(publish("soft", "", true), "");
+  EXPECT_FALSE(one_->nodes().find("inner"));
+  EXPECT_TRUE(one_->nodes().find("twice"));
+  EXPECT_THAT(told_, ElementsAre("the compound '" + one_->node()->fullPath() +
+                                 "' stays as it was, as it cannot follow 'core::soft'"));
+}
+
 }  // namespace
 }  // namespace orvlib

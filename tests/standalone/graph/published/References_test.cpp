@@ -238,5 +238,81 @@ TEST_F(Reset, IsToldOnce) {
   EXPECT_EQ(listener.rounds, 1);
 }
 
+/// core::soft has a level inside of it now, and so have new instances.
+class ReferenceNesting : public Reference {
+ protected:
+  static constexpr unsigned int kDeepest = CompoundObject::kDeepest;
+
+  ReferenceNesting() {
+    CompoundObject* inner = addCompound(*soft_, "inner");
+    publish("soft", "", true);
+    EXPECT_TRUE(edits_.run(RemoveNode{{CompoundRef(soft_), NodeRef(inner->node()), 0}}));
+  }
+  void moveSoftTo(unsigned int depth) {
+    CompoundObject* level = addNested(top(), "c", depth - 1);
+    Transaction wires;
+    for (const char* path : {"/soft.size", "/soft.result"}) {
+      ASSERT_TRUE(runDisconnectAll(wires, *port(path)));
+    }
+    ASSERT_TRUE(edits_.run(MoveNode{NodeRef(soft_->node()), CompoundRef(level), 0, "soft"}));
+    ASSERT_EQ(soft_->depth(), depth);
+    before_ = stored();
+  }
+
+  std::string before_;
+};
+
+TEST_F(ReferenceNesting, ACompoundBecomesOneDownToTheDeepestLevel) {
+  moveSoftTo(kDeepest - 1);
+  EXPECT_TRUE(soft_->canResetToFactory());
+  EXPECT_TRUE(soft_->setIsReferenced(true));
+  EXPECT_EQ(top().countHeight(), kDeepest);
+}
+
+TEST_F(ReferenceNesting, ACompoundBelowWhichThereIsNoRoomStaysWhatItIs) {
+  moveSoftTo(kDeepest);
+  EXPECT_FALSE(soft_->canResetToFactory());
+  EXPECT_FALSE(soft_->setIsReferenced(true));
+  EXPECT_EQ(stored(), before_);
+}
+
+TEST_F(ReferenceNesting, WhatIsAsDeepAlreadyMayBeReset) {
+  moveSoftTo(kDeepest);
+  addCompound(*soft_, "inner");
+  addCompound(*soft_, "more");
+  EXPECT_TRUE(soft_->canResetToFactory());
+  EXPECT_TRUE(soft_->setIsReferenced(true));
+}
+
+TEST_F(ReferenceNesting, FormerContentDoesNotComeBackBelowTheDeepestLevel) {
+  addNested(*soft_, "high", 2);
+  ASSERT_TRUE(soft_->setIsReferenced(true));
+  moveSoftTo(kDeepest - 1);
+  EXPECT_FALSE(soft_->setIsReferenced(false));
+  EXPECT_EQ(stored(), before_);
+  EXPECT_TRUE(soft_->isReferenced());
+}
+
+TEST_F(Reference, AreNestedInEachOtherUpToALimit) {
+  constexpr unsigned int kCount = 400;
+  const auto typeOf = [](unsigned int i) { return "core::r" + std::to_string(i); };
+  for (unsigned int i = 0; i < kCount; ++i) {
+    const std::string type = typeOf(i + 1);
+    std::ofstream(file("r" + std::to_string(i) + ".yaml"))
+        << "compound: " << typeOf(i) << "\nniceName: R\ndescription: R.\ncontent: |\n"
+        << "  vesk-compound 1\n  definition " << type << "\n  content\n    node r " << type
+        << "\n  end\n";
+  }
+  fresh_.find("standard")->forceRebuildCompounds();
+  told_.clear();
+  const CompoundObject* one = instance(typeOf(0), "one");
+  ASSERT_TRUE(one);
+  EXPECT_EQ(one->countHeight(), 249u);
+  ASSERT_EQ(told_.size(), 1u);
+  EXPECT_EQ(told_[0], "there can be no 'core::r250': too many references are nested");
+  ASSERT_TRUE(instance(typeOf(kCount - 10), "last"));
+  EXPECT_EQ(graph_.findCompound("/last")->countHeight(), 9u);
+}
+
 }  // namespace
 }  // namespace orvlib

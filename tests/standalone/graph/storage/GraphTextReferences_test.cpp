@@ -218,5 +218,23 @@ TEST_F(StoredInnerFaces, OfAnUnknownDefinitionAreCheckedAsFarAsTheyCanBe) {
             "the metadata 'k' comes twice");
 }
 
+TEST_F(StoredReference, ThatWouldBeTooDeepIsKeptAsAPlaceholder) {
+  CompoundObject* level = addNested(top(), "c", CompoundObject::kDeepestStored - 1);
+  insert(*level, factory().make(*graph_.core().findDefinition("core::soft"), "deep"));
+  const std::string text = stored();
+  EXPECT_EQ(again(text), text);
+  EXPECT_TRUE(told_.empty());
+  addCompound(*soft_, "inner");
+  ASSERT_EQ(publish("soft", "", true), "");
+  told_.clear();
+  ContainerObject other("standard");
+  ASSERT_FALSE(readGraph(text, other));
+  EXPECT_EQ(other.findNode(level->node()->fullPath() + "/deep")->nodeKind(), NodeKind::Placeholder);
+  EXPECT_TRUE(other.findNode("/one/inner"));
+  EXPECT_EQ(other.top().compound()->countHeight(), CompoundObject::kDeepestStored - 1);
+  EXPECT_EQ(told_, std::vector<std::string>{"there can be no 'core::soft': compounds are nested "
+                                            "more than 5000 deep"});
+}
+
 }  // namespace
 }  // namespace orvlib
