@@ -101,6 +101,17 @@ TEST_F(PortsForConnection, AreTheInnerFaceInsideACompound) {
   EXPECT_EQ(shown(destination_), "/group.out inside");
 }
 
+TEST_F(PortsForConnection, OfOneCompoundAreTheInnerFacesFromItsInputToItsOutput) {
+  addPort(*graph_.findCompound("/group"), PortDirection::Input, "in", "float");
+  ASSERT_TRUE(find("/group.in", "/group.out"));
+  EXPECT_EQ(shown(source_), "/group.in inside");
+  EXPECT_EQ(shown(destination_), "/group.out inside");
+  EXPECT_TRUE(destination_->addConnection(source_, true));
+  ASSERT_TRUE(find("/group.out", "/group.in"));
+  EXPECT_EQ(shown(source_), "/group.out");
+  EXPECT_EQ(shown(destination_), "/group.in");
+}
+
 TEST_F(PortsForConnection, NeedPlacesForBothHandles) {
   EXPECT_FALSE(container_.findPortsForConnection("/group.out", "/add.a", nullptr, &destination_));
   EXPECT_FALSE(container_.findPortsForConnection("/group.out", "/add.a", &source_, nullptr));

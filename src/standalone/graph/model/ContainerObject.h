@@ -38,8 +38,8 @@ class ORV_EXPORT ContainerObject final : public ORV_v1::Container, public ORV_v1
   PortObject* findPort(std::string_view path, unsigned int ioType, unsigned int mode) const;
   AnnotationObject* findAnnotation(std::string_view path) const;
 
-  /// The faces that a connection from `source` to `destination` joins, each null when there is no
-  /// such pair.
+  /// The faces that a connection from `source` to `destination` joins: one that gives values and
+  /// one that takes them; when there is no such pair, the reverse one; else both are null.
   std::pair<PortObject*, PortObject*> findPair(std::string_view source,
                                                std::string_view destination) const;
 

@@ -84,14 +84,18 @@ std::pair<PortObject*, PortObject*> ContainerObject::findPair(std::string_view s
                                                               std::string_view destination) const {
   constexpr unsigned int kModes[] = {ORV_v1::Container::kSearchOuter,
                                      ORV_v1::Container::kSearchInner};
+  std::pair<PortObject*, PortObject*> reverse{nullptr, nullptr};
   for (const unsigned int sourceMode : kModes) {
     PortObject* from = findPort(source, ORV_v1::Container::kSearchEither, sourceMode);
     for (const unsigned int destinationMode : kModes) {
       PortObject* to = findPort(destination, ORV_v1::Container::kSearchEither, destinationMode);
-      if (from && to && canFace(*from, *to)) return {from, to};
+      if (!from || !to || !canFace(*from, *to)) continue;
+      // Two ports of one compound face each other on both sides of it, in opposite directions.
+      if (!from->isInput()) return {from, to};
+      if (!reverse.first) reverse = {from, to};
     }
   }
-  return {nullptr, nullptr};
+  return reverse;
 }
 
 }  // namespace orvlib

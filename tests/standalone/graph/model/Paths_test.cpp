@@ -122,5 +122,34 @@ TEST_F(Paths, LeadToAnnotations) {
   }
 }
 
+TEST_F(Paths, OfOneCompoundsPortsPairInTheStatedDirection) {
+  addPort(*group_, PortDirection::Output, "out", "color3");
+  const auto [from, to] = graph_.findPair("/group.in", "/group.out");
+  EXPECT_EQ(from, port("/group.in", 0));
+  EXPECT_EQ(to, port("/group.out", 0));
+  const auto [outerFrom, outerTo] = graph_.findPair("/group.out", "/group.in");
+  EXPECT_EQ(outerFrom, port("/group.out", 1));
+  EXPECT_EQ(outerTo, port("/group.in", 1));
+  const auto [childFrom, childTo] = graph_.findPair("/group.in.r", "/group.out.g");
+  EXPECT_EQ(childFrom, port("/group.in.r", 0));
+  EXPECT_EQ(childTo, port("/group.out.g", 0));
+}
+
+TEST_F(Paths, OfTheTopsPortsPairInsideInEitherDirection) {
+  addPort(top(), PortDirection::Input, "in", "float");
+  const auto [from, to] = graph_.findPair("/.in", "/.out");
+  EXPECT_EQ(from, port("/.in", 0));
+  EXPECT_EQ(to, port("/.out", 0));
+  const auto [reverseFrom, reverseTo] = graph_.findPair("/.out", "/.in");
+  EXPECT_EQ(reverseFrom, port("/.out", 0));
+  EXPECT_EQ(reverseTo, port("/.in", 0));
+}
+
+TEST_F(Paths, OfPortsOfOneDirectionDoNotPair) {
+  addPort(*group_, PortDirection::Input, "more", "color3");
+  EXPECT_FALSE(graph_.findPair("/group.in", "/group.more").first);
+  EXPECT_FALSE(graph_.findPair("/group.in", "/group.in").first);
+}
+
 }  // namespace
 }  // namespace orvlib
