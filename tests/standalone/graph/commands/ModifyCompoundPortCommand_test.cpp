@@ -143,5 +143,20 @@ TEST_F(ModifyCompoundPortCommandTest, AnUnboundCommandRecordsNothing) {
   EXPECT_TRUE(command.redo());
 }
 
+TEST_F(ModifyCompoundPortCommandTest, ANameWithADotIsForAMemberOfAFanInPort) {
+  PortObject* list = addPort(*group_, PortDirection::Input, "list", "array<float>");
+  ASSERT_TRUE(edits_.run(SetPortFlags{PortRef(list), ORV_v1::kPortFanIn}));
+  const std::string before = text();
+  for (const char* name : {".", ".new", "p.new", "none.new", "list."}) {
+    EXPECT_FALSE(command_.createPort(PortIOType::kInput, name, "float", ORV_v1::PortProperties()))
+        << name;
+  }
+  ASSERT_TRUE(
+      command_.createPort(PortIOType::kInput, "list.new", "float", ORV_v1::PortProperties()));
+  ASSERT_TRUE(command_.redo());
+  EXPECT_TRUE(port("/group.list.new"));
+  expectReversible(command_, before);
+}
+
 }  // namespace
 }  // namespace orvlib
