@@ -20,11 +20,13 @@ FaultPoint kUndo("ModifyNodePortCommand undo");
 
 NodeObject* object(const AddRefWrapper<Node>& node) { return static_cast<NodeObject*>(node.get()); }
 
-/// Whether a search with these values finds the port.
+/// Whether a search with these values finds the port, by the path of its own node or of the
+/// input/output node that shows it.
 bool isFoundBy(PortObject& port, Container::ESearchIOType ioType, Container::ESearchMode mode) {
   const bool either = ioType == Container::kSearchEither;
   if (!either && static_cast<unsigned int>(port.direction()) != ioType) return false;
   if (!port.root().twin()) return mode <= Container::kSearchOuter;
+  if (port.isInner() && mode == Container::kSearchOuter) return port.root().ioNode() != nullptr;
   return mode == (port.isInner() ? Container::kSearchInner : Container::kSearchOuter);
 }
 
