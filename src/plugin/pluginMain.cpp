@@ -1,5 +1,8 @@
 #include <cstdint>
 
+#include "commands/clipboard/orvCopyCmd.h"
+#include "commands/clipboard/orvPasteCmd.h"
+#include "commands/clipboard/orvWatchPointCmd.h"
 #include "commands/compound/orvCompoundCmd.h"
 #include "commands/graph/orvConnectCmd.h"
 #include "commands/graph/orvNodeCmd.h"
@@ -34,7 +37,10 @@ constexpr CommandRow kCommands[] = {
     {"orvChangeBracket", orvChangeBracketCmd::creator, orvChangeBracketCmd::createSyntax},
     {"orvCompound", orvCompoundCmd::creator, orvCompoundCmd::createSyntax},
     {"orvConnect", orvConnectCmd::creator, orvConnectCmd::createSyntax},
+    {"orvCopy", orvCopyCmd::creator, orvCopyCmd::createSyntax},
     {"orvNode", orvNodeCmd::creator, orvNodeCmd::createSyntax},
+    {"orvPaste", orvPasteCmd::creator, orvPasteCmd::createSyntax},
+    {"orvWatchPoint", orvWatchPointCmd::creator, orvWatchPointCmd::createSyntax},
     {"orvPort", orvPortCmd::creator, orvPortCmd::createSyntax},
 };
 

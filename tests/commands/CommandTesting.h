@@ -5,6 +5,9 @@
 
 #include <string>
 
+#include "commands/clipboard/orvCopyCmd.h"
+#include "commands/clipboard/orvPasteCmd.h"
+#include "commands/clipboard/orvWatchPointCmd.h"
 #include "commands/compound/orvCompoundCmd.h"
 #include "commands/graph/orvConnectCmd.h"
 #include "commands/graph/orvNodeCmd.h"
@@ -25,8 +28,11 @@ class CommandTest : public testing::Test {
     registerMessages();
     addCommand("orvCompound", orvCompoundCmd::creator, orvCompoundCmd::createSyntax());
     addCommand("orvConnect", orvConnectCmd::creator, orvConnectCmd::createSyntax());
+    addCommand("orvCopy", orvCopyCmd::creator, orvCopyCmd::createSyntax());
     addCommand("orvNode", orvNodeCmd::creator, orvNodeCmd::createSyntax());
+    addCommand("orvPaste", orvPasteCmd::creator, orvPasteCmd::createSyntax());
     addCommand("orvPort", orvPortCmd::creator, orvPortCmd::createSyntax());
+    addCommand("orvWatchPoint", orvWatchPointCmd::creator, orvWatchPointCmd::createSyntax());
     host.session().undoQueue().clear();
   }
 

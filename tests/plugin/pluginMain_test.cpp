@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "standalone/host/engine/HostAccess.h"
 #include "tests/plugin/ModuleTesting.h"
 
@@ -11,8 +13,8 @@ using testing::IsEmpty;
 using Texts = std::vector<std::string>;
 
 /// The module's commands, in the order in which they come up and go down.
-const Texts kCommands = {"orv",        "orvChangeBracket", "orvCompound",
-                         "orvConnect", "orvNode",          "orvPort"};
+const Texts kCommands = {"orv",     "orvChangeBracket", "orvCompound",   "orvConnect", "orvCopy",
+                         "orvNode", "orvPaste",         "orvWatchPoint", "orvPort"};
 
 /// The last command, whose status is that of the load and of the unload.
 const char* const kLast = kCommands.back().c_str();
@@ -24,10 +26,11 @@ Texts callsOf(const std::string& call) {
   return calls;
 }
 
-/// The names as JSON, from the one at `first` on.
+/// The names from the one at `first` on as JSON, sorted as the host lists them.
 std::string listed(std::size_t first = 0) {
-  return vesk::toJson(
-      Texts(kCommands.begin() + static_cast<std::ptrdiff_t>(first), kCommands.end()));
+  Texts names(kCommands.begin() + static_cast<std::ptrdiff_t>(first), kCommands.end());
+  std::sort(names.begin(), names.end());
+  return vesk::toJson(names);
 }
 
 using EntryPoint = KStatus (*)(KObject);
