@@ -1,6 +1,7 @@
 // Which compound is asked whether it may be edited, which one has the bracket, and undo and redo.
 
 #include "tests/commands/graph/ConnectTesting.h"
+#include "tests/commands/graph/OpenBrackets.h"
 
 namespace {
 
@@ -16,17 +17,7 @@ class OrvConnectBracket : public ConnectTest {
     calls.atCall = [this] { open.push_back(openBrackets()); };
   }
 
-  /// The clients of the brackets that are open: "graph" stands for one of the container's own.
-  Texts openBrackets() {
-    Texts clients;
-    for (const char* path : {"/", "/box", "/other"}) {
-      const auto node = graph.findNodeFromPath(path);
-      const auto level = node ? node->asCompound() : ORV_v1::AddRefWrapper<ORV_v1::Compound>();
-      if (level && level->activeChangeBracket()) clients.emplace_back(path);
-    }
-    if (clients.empty() && graph.activeChangeBracket()) clients.emplace_back("graph");
-    return clients;
-  }
+  Texts openBrackets() { return ::openBrackets(graph, {"/", "/box", "/other"}); }
 
   /// The brackets that were open at each call of the library since it was last asked.
   std::vector<Texts> takeOpen() { return std::exchange(open, {}); }

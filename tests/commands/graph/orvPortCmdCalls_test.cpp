@@ -1,6 +1,7 @@
 // What the command asks of the graph library, in which bracket, and undo and redo.
 
 #include "tests/commands/graph/LibraryCalls.h"
+#include "tests/commands/graph/OpenBrackets.h"
 #include "tests/commands/graph/PortTesting.h"
 
 namespace {
@@ -11,17 +12,7 @@ using testing::IsEmpty;
 class OrvPortCalls : public PortTest {
  protected:
   OrvPortCalls() {
-    calls.atCall = [this] { open.push_back(openBrackets()); };
-  }
-
-  Texts openBrackets() {
-    Texts clients;
-    for (const char* path : {"/", "/box"}) {
-      const auto node = graph.findNodeFromPath(path);
-      if (node && node->asCompound()->activeChangeBracket()) clients.emplace_back(path);
-    }
-    if (clients.empty() && graph.activeChangeBracket()) clients.emplace_back("graph");
-    return clients;
+    calls.atCall = [this] { open.push_back(openBrackets(graph, {"/", "/box"})); };
   }
 
   LibraryCalls calls;
