@@ -1,35 +1,12 @@
 // Texts that are no names: what the command does with them.
 
+#include "tests/commands/AwkwardTexts.h"
 #include "tests/commands/compound/CompoundNames.h"
 #include "tests/commands/graph/NodeReading.h"
 
 namespace {
 
 using testing::ElementsAre;
-
-struct Awkward {
-  const char* name;
-  std::string text;
-  std::string asName;  ///< what the graph makes of it
-};
-
-const Awkward kAwkward[] = {
-    {"quotes", R"(a "b" 'c')", "a__b___c_"},
-    {"backslashes", R"(a\b\\c\)", "a_b__c_"},
-    {"blanks", "  a b ", "__a_b_"},
-    {"lineBreaks", "a\nb\r\tc\n", "a_b__c_"},
-    {"umlauts", "Größe", "Gr__e"},
-    {"han", "数据", "__"},
-    {"emoji", "🙂", "_"},
-    {"marks", "^1s ^2s %s", "_1s__2s__s"},
-    {"path", "/a/b", "_a_b"},
-    {"list", "{a,b}", "_a_b_"},
-    {"dash", "-createInputPort", "_createInputPort"},
-    {"digits", "12", "_12"},
-    {"long", std::string(1000, 'n'), std::string(1000, 'n')},
-};
-
-void PrintTo(const Awkward& awkward, std::ostream* out) { *out << awkward.name; }
 
 class NodeAwkward : public NodeReadingTest, public testing::WithParamInterface<Awkward> {
  protected:
