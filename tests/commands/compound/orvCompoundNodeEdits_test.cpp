@@ -58,6 +58,17 @@ TEST_F(CompoundNodeEdits, ANodeNamedTwiceMovesOnce) {
   EXPECT_THAT(nodes("/group"), ElementsAre("a"));
 }
 
+TEST_F(CompoundNodeEdits, ANodeNamedTwiceIsRemovedOnce) {
+  sweep("/", "-removeNode a -removeNode a");
+  run("/", "-removeNode a -removeNode a");
+  EXPECT_FALSE(node("/a"));
+}
+
+TEST_F(CompoundNodeEdits, ACompoundNamedTwiceIsExplodedOnce) {
+  run("/", "-create group -moveNodeIn a");
+  sweep("/", "-explode group -explode group");
+}
+
 TEST_F(CompoundNodeEdits, WhatToMoveInMeansNothingWithoutANewCompound) {
   run("/", "-addBackdrop frame");
   host.session().undoQueue().clear();

@@ -91,6 +91,15 @@ TEST_F(NodeCommandTest, RemovesANodeWithItsConnections) {
   expectReversible(command_, before);
 }
 
+TEST_F(NodeCommandTest, WhatIsNamedTwiceGoesOnce) {
+  const std::string before = text();
+  ASSERT_TRUE(command_.removeNode(compound("/"), "a"));
+  ASSERT_TRUE(command_.removeNode(compound("/"), "a"));
+  ASSERT_TRUE(command_.redo());
+  EXPECT_EQ(graph_.findNode("/a"), nullptr);
+  expectReversible(command_, before);
+}
+
 TEST_F(NodeCommandTest, UndoGivesBackTheVeryNode) {
   const NodeRef node(graph_.findNode("/a"));
   command_.removeNode(compound("/"), "a");

@@ -194,6 +194,15 @@ TEST_F(Edits, SetAValueAndTheDefault) {
   EXPECT_EQ(port->ownValue(), nullptr);
 }
 
+TEST_F(Edits, AValueOfAnotherTypeThanThePortsIsRefused) {
+  PortObject* port = addSum("one")->port("a");
+  for (const Value& value : {Value(Integers{3}), Value(Floats{1, 2, 3}), Value(Floats{})}) {
+    Transaction edits;
+    EXPECT_FALSE(edits.run(SetPortValue{PortRef(port), std::make_unique<const Value>(value)}));
+    EXPECT_EQ(port->ownValue(), nullptr);
+  }
+}
+
 TEST_F(Edits, ShowAPortOnAnInputNode) {
   PortObject* port = addPort(top(), PortDirection::Input, "in", "float");
   NodeObject* one = insert(top(), factory().makeIo(NodeKind::Input, "one"));
