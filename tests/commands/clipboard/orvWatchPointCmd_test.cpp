@@ -51,9 +51,9 @@ TEST_F(WatchPointCommandTest, EachEditCanBeUndoneAndRedone) {
   sweepLine(line("-create"));
   sweepLine(line("-create -enable false -setParameterValue limit 3"));
   run("-create");
-  for (const char* flags :
-       {"-remove", "-enable false", "-spv limit 3", "-spv record changes", "-smd k v", "-amd k v",
-        "-mfs {k=v}", "-e false -spv limit 3 -smd k v", "-smd k v -remove"}) {
+  for (const char* flags : {"-remove", "-enable false", "-spv limit 3", "-spv record changes",
+                            "-spv format fixed", "-spv digits 2", "-smd k v", "-amd k v",
+                            "-mfs {k=v}", "-e false -spv limit 3 -smd k v", "-smd k v -remove"}) {
     sweepLine(line(flags));
   }
   run("-smd k v");
@@ -130,7 +130,7 @@ TEST_F(WatchPointCommandTest, AnswersEachQuery) {
   run("-create");
   EXPECT_EQ(run("-queryHasWatchPoint"), "true");
   EXPECT_EQ(run("-queryIsEnabled"), "true");
-  EXPECT_EQ(run("-queryParameters"), R"(["record","limit"])");
+  EXPECT_EQ(run("-queryParameters"), R"(["record","limit","format","digits"])");
   EXPECT_EQ(run("-queryParameterDescription record"), "\"Which evaluations are recorded.\"");
   EXPECT_EQ(run("-queryParameterValues record"), R"(["all","changes"])");
   EXPECT_EQ(run("-queryParameterValues limit"), "[]");
@@ -194,7 +194,7 @@ TEST_F(WatchPointCommandTest, AnswersTheFirstQueryOfTheTableAlone) {
   EXPECT_EQ(run("-qrv value -qpv record -qvd record all -qvs record -qpd record -qps -qe -qw"),
             "true");
   EXPECT_EQ(run("-qps -qe"), "false");
-  EXPECT_EQ(run("-qpd record -qps"), R"(["record","limit"])");
+  EXPECT_EQ(run("-qpd record -qps"), R"(["record","limit","format","digits"])");
   EXPECT_EQ(run("-qvs record -qpd record"), run("-qpd record"));
   EXPECT_EQ(run("-qvd record all -qvs record"), R"(["all","changes"])");
   EXPECT_EQ(run("-qpv record -qvd record all"), run("-qvd record all"));

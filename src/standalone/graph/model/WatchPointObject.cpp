@@ -1,7 +1,6 @@
 #include "standalone/graph/model/WatchPointObject.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "standalone/graph/edits/FaultPoints.h"
 #include "standalone/graph/model/PortObject.h"
@@ -23,61 +22,11 @@ FaultPoint kRecordNames("WatchPoint getRecordNames");
 FaultPoint kClearRecorded("WatchPoint clearRecordedValues");
 FaultPoint kRecordedValues("WatchPoint getRecordedValues");
 
-struct ChoiceRow {
-  const char* value;
-  const char* description;
-};
-
-struct ParameterRow {
-  const char* name;
-  const char* description;
-  std::vector<ChoiceRow> choices;
-};
-
-const std::vector<ParameterRow>& parameters() {
-  static const std::vector<ParameterRow> rows{
-      {"record",
-       "Which evaluations are recorded.",
-       {{"all", "Every evaluation."}, {"changes", "Each evaluation that gave another value."}}},
-      {"limit",
-       "How many evaluations are kept, the latest ones: a whole number from 1 to 1000000.",
-       {}},
-  };
-  return rows;
-}
-
-constexpr std::uint32_t kLargestLimit = 1000000;
-
-const ParameterRow* findParameter(const char* name) {
-  for (const ParameterRow& row : parameters()) {
-    if (name && std::string_view(name) == row.name) return &row;
-  }
-  return nullptr;
-}
-
-std::optional<std::uint32_t> readLimit(std::string_view text) {
-  std::uint32_t limit = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), limit);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  return whole && limit >= 1 && limit <= kLargestLimit ? std::optional(limit) : std::nullopt;
+const WatchPointParameter* findParameter(const char* name) {
+  return name ? findWatchPointParameter(name) : nullptr;
 }
 
 }  // namespace
-
-bool WatchPointSetup::set(std::string_view name, std::string_view value) {
-  if (name == "record" && (value == "all" || value == "changes")) {
-    changesOnly = value == "changes";
-    return true;
-  }
-  const auto read = name == "limit" ? readLimit(value) : std::nullopt;
-  if (read) limit = *read;
-  return read.has_value();
-}
-
-std::string WatchPointSetup::get(std::string_view name) const {
-  if (name == "record") return changesOnly ? "changes" : "all";
-  return name == "limit" ? std::to_string(limit) : "";
-}
 
 void WatchPointObject::record(std::uint64_t evaluation, const Value& value) {
   if (!setup_.enabled) return;
@@ -91,20 +40,20 @@ void WatchPointObject::record(std::uint64_t evaluation, const Value& value) {
 bool WatchPointObject::getParameterNames(ORV_v1::StringArray& names) {
   if (kParameterNames.refuses()) return false;
   names.clear();
-  for (const ParameterRow& row : parameters()) names.add(row.name);
+  for (const WatchPointParameter& row : watchPointParameters()) names.add(row.name);
   return true;
 }
 
 bool WatchPointObject::getParameterValues(const char* name, ORV_v1::StringArray& values) {
-  const ParameterRow* row = findParameter(name);
+  const WatchPointParameter* row = findParameter(name);
   if (kParameterValues.refuses() || !row) return false;
   values.clear();
-  for (const ChoiceRow& choice : row->choices) values.add(choice.value);
+  for (const WatchPointChoice& choice : row->choices) values.add(choice.value);
   return true;
 }
 
 bool WatchPointObject::getParameterDescription(const char* name, ORV_v1::String& description) {
-  const ParameterRow* row = findParameter(name);
+  const WatchPointParameter* row = findParameter(name);
   if (kDescription.refuses() || !row) return false;
   description = GraphAccess::makeString(row->description);
   return true;
@@ -112,9 +61,9 @@ bool WatchPointObject::getParameterDescription(const char* name, ORV_v1::String&
 
 bool WatchPointObject::getParameterValueDescription(const char* name, const char* value,
                                                     ORV_v1::String& description) {
-  const ParameterRow* row = findParameter(name);
+  const WatchPointParameter* row = findParameter(name);
   if (kValueDescription.refuses() || !row || !value) return false;
-  for (const ChoiceRow& choice : row->choices) {
+  for (const WatchPointChoice& choice : row->choices) {
     if (std::string_view(value) != choice.value) continue;
     description = GraphAccess::makeString(choice.description);
     return true;
@@ -123,9 +72,9 @@ bool WatchPointObject::getParameterValueDescription(const char* name, const char
 }
 
 bool WatchPointObject::getParameterValue(const char* name, ORV_v1::String& value) {
-  const ParameterRow* row = findParameter(name);
+  const WatchPointParameter* row = findParameter(name);
   if (kParameterValue.refuses() || !row) return false;
-  value = GraphAccess::makeString(setup_.get(row->name));
+  value = GraphAccess::makeString(row->get(setup_));
   return true;
 }
 
@@ -151,7 +100,7 @@ bool WatchPointObject::getRecordedValues(const char* name, ORV_v1::StringArray& 
   const std::size_t hidden = records_.size() - std::min<std::size_t>(records_.size(), setup_.limit);
   for (std::size_t i = hidden; i < records_.size(); ++i) {
     const Record& record = records_[i];
-    texts.push_back(asked == "value" ? writeList(printValue(record.value))
+    texts.push_back(asked == "value" ? writeList(printValue(record.value, setup_.form))
                                      : std::to_string(record.evaluation));
   }
   GraphAccess::textsOf(values) = std::move(texts);

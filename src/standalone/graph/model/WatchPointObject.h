@@ -2,36 +2,14 @@
 
 #include <cstdint>
 #include <deque>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "platform/ORV_1_0/WatchPoint.h"
 #include "standalone/graph/model/Handles.h"
+#include "standalone/graph/model/WatchPointSetup.h"
 #include "standalone/graph/model/WithMetadata.h"
 #include "standalone/graph/types/Value.h"
 
 namespace orvlib {
-
-/// How a watch point is set up.
-struct ORV_EXPORT WatchPointSetup {
-  bool enabled = true;
-
-  /// "all": every evaluation is recorded. "changes": those that gave another value.
-  bool changesOnly = false;
-
-  /// How many evaluations are kept, the latest ones; at least 1.
-  std::uint32_t limit = 100;
-
-  bool operator==(const WatchPointSetup&) const = default;
-
-  /// Sets the parameter of that name: "record", "limit". False, and nothing set, for an unknown
-  /// name or a value that it does not take.
-  bool set(std::string_view name, std::string_view value);
-
-  /// The value of the parameter of that name; empty for an unknown one.
-  std::string get(std::string_view name) const;
-};
 
 /// What the library knows of a watch point.
 class ORV_EXPORT WatchPointObject final : public WithMetadata<ORV_v1::WatchPoint> {

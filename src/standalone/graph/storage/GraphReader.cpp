@@ -87,7 +87,7 @@ const GraphReader::Statement* GraphReader::findStatement(std::string_view word) 
       {"backdrop", 2, 2, kAnything, &R::readBackdrop, "NAME"},
       {"order", 3, kAny, kNode, &R::readOrder, "in|out PORT..."},
       {"pair", 3, 3, kCompound, &R::readPair, "PORT PORT"},
-      {"watch", 4, 5, kPorted, &R::readWatch, "PORT RECORD LIMIT [off]"},
+      {"watch", 4, kAny, kPorted, &R::readWatch, "PORT RECORD LIMIT [off] [NAME VALUE]..."},
       {"watch-metadata", 4, kAny, kPorted, &R::readWatchMetadata, "PORT KEY VALUE..."},
       {"origin", 2, 2, kCompound, &R::readOrigin, "TYPE"},
       {"compound-metadata", 3, kAny, kCompound, &R::readCompoundMetadata, "KEY VALUE..."},

@@ -81,6 +81,8 @@ class GraphReader {
   bool readValue();
   bool readPortMetadata();
   bool readWatch();
+  bool readSetup(WatchPointSetup& setup);
+  bool readFurtherParameters(std::size_t at, WatchPointSetup& setup);
   bool readWatchMetadata();
 
   const Words& words() const { return lines_.words(); }

@@ -10,6 +10,7 @@
 namespace orvlib {
 
 class AnnotationObject;
+struct WatchPointSetup;
 
 /// Writes the statements of a stored text. docs/graph-format.md describes them.
 class GraphWriter {
@@ -50,6 +51,7 @@ class GraphWriter {
   void writeShared(const PortObject& port, const std::string& path);
   void writeMembers(const PortObject& port, const std::string& path);
   void writeFlags(const PortObject& port, const std::string& path);
+  void writeFurtherParameters(const WatchPointSetup& setup);
   void writeWatchPoint(const PortObject& port, const std::string& path);
   void writeMetadata(std::string_view statement, std::string_view path, const Properties& set);
 

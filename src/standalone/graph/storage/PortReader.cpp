@@ -236,34 +236,6 @@ bool GraphReader::readPortMetadata() {
   return addMetadata(*named.port, 2);
 }
 
-bool GraphReader::readWatch() {
-  const Named named = subjectPort(words()[1]);
-  PortObject* around = named.port || named.lost ? nullptr : portWithInnerLines(words()[1]);
-  if (!named.port && !around) return notFound(named, words()[1]);
-  if (!around && named.port->watchPoint()) {
-    return fail(inQuotes(words()[1]) + " is watched already");
-  }
-  WatchPointSetup setup;
-  if (!setup.set("record", words()[2])) return fail(inQuotes(words()[2]) + " cannot be recorded");
-  if (!setup.set("limit", words()[3])) return fail(inQuotes(words()[3]) + " is no limit");
-  setup.enabled = words().size() == 4;
-  if (!setup.enabled && words()[4] != "off") return fail(inQuotes(words()[4]) + " is not off");
-  if (around) return keepInnerLine(*around);
-  WatchPointRef watchPoint(new WatchPointObject);
-  Mutator::setUp(*watchPoint, setup);
-  Mutator::exchangeWatchPoint(*named.port, watchPoint);
-  return true;
-}
-
-bool GraphReader::readWatchMetadata() {
-  const Named named = subjectPort(words()[1]);
-  PortObject* around = named.port || named.lost ? nullptr : portWithInnerLines(words()[1]);
-  if (around) return keepInnerLine(*around);
-  if (!named.port) return notFound(named, words()[1]);
-  if (!named.port->watchPoint()) return fail(inQuotes(words()[1]) + " is not watched");
-  return addMetadata(*named.port->watchPoint(), 2);
-}
-
 bool GraphReader::readWire() {
   subject_ = kNothing;
   const Named source = wireEnd(words()[1]);

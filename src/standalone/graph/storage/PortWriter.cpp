@@ -6,6 +6,7 @@
 #include "standalone/graph/model/WatchPointObject.h"
 #include "standalone/graph/storage/GraphWriter.h"
 #include "standalone/graph/storage/LineWords.h"
+#include "standalone/graph/storage/StoredFormat.h"
 #include "standalone/graph/types/ValueText.h"
 
 namespace orvlib {
@@ -150,13 +151,25 @@ void GraphWriter::writeFlags(const PortObject& port, const std::string& path) {
   end();
 }
 
+void GraphWriter::writeFurtherParameters(const WatchPointSetup& setup) {
+  const WatchPointSetup given;
+  for (const WatchPointParameter& parameter : watchPointParameters().subspan(kStatedParameters)) {
+    std::string value = parameter.get(setup);
+    if (value == parameter.get(given)) continue;
+    word(parameter.name);
+    word(value);
+  }
+}
+
 void GraphWriter::writeWatchPoint(const PortObject& port, const std::string& path) {
   const WatchPointSetup& setup = port.watchPoint()->setup();
   begin("watch");
   word(path);
-  word(setup.get("record"));
-  word(setup.get("limit"));
+  for (const WatchPointParameter& parameter : watchPointParameters().first(kStatedParameters)) {
+    word(parameter.get(setup));
+  }
   if (!setup.enabled) body_ += " off";
+  writeFurtherParameters(setup);
   end();
   writeMetadata("watch-metadata", path, port.watchPoint()->metadata());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,10 @@ constexpr std::string_view kSelectionFormat = "vesk-nodes";
 constexpr std::string_view kGraphBlock = "graph";
 constexpr std::string_view kContentBlock = "content";
 constexpr std::string_view kSelectionBlock = "nodes";
+
+/// How many parameters of a watch point are always stated, by their values alone: record and limit.
+/// Those after them stand by name and value, when they are not as in a new one.
+constexpr std::size_t kStatedParameters = 2;
 
 /// A value in the reason of an error.
 inline std::string inQuotes(std::string_view text) { return "'" + std::string(text) + "'"; }

@@ -39,14 +39,30 @@ const char* parseScalar(const std::string& text, std::string& string) {
   return nullptr;
 }
 
-template <class Number>
-std::string printScalar(Number number) {
-  std::array<char, 64> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
-  return {buffer.data(), end};
+/// Room for the longest float: a sign, the 39 digits of the largest, a point and the decimals.
+constexpr std::size_t kLongestNumber = 42 + FloatForm::kMostDigits;
+
+template <class Number, class... Form>
+std::string printNumber(Number number, Form... form) {
+  std::array<char, kLongestNumber> buffer;
+  char* const first = buffer.data();
+  return {first, std::to_chars(first, first + buffer.size(), number, form...).ptr};
 }
-std::string printScalar(bool boolean) { return boolean ? "true" : "false"; }
-std::string printScalar(const std::string& string) { return string; }
+
+std::string printScalar(float number, const FloatForm& form) {
+  switch (form.style) {
+    case FloatForm::Style::Fixed:
+      return printNumber(number, std::chars_format::fixed, int{form.digits});
+    case FloatForm::Style::Scientific:
+      return printNumber(number, std::chars_format::scientific, int{form.digits});
+    case FloatForm::Style::Shortest:
+      break;
+  }
+  return printNumber(number);
+}
+std::string printScalar(std::int32_t number, const FloatForm&) { return printNumber(number); }
+std::string printScalar(bool boolean, const FloatForm&) { return boolean ? "true" : "false"; }
+std::string printScalar(const std::string& string, const FloatForm&) { return string; }
 
 std::string countReason(const ValueType& type, std::size_t count) {
   const std::string per = std::to_string(type.componentCount());
@@ -90,12 +106,14 @@ ParsedValue parseValue(const ValueType& type, const std::vector<std::string>& te
   return parseScalars<Texts>(type, texts);
 }
 
-std::vector<std::string> printValue(const Value& value) {
+std::vector<std::string> printValue(const Value& value) { return printValue(value, {}); }
+
+std::vector<std::string> printValue(const Value& value, const FloatForm& form) {
   return std::visit(
-      [](const auto& scalars) {
+      [&form](const auto& scalars) {
         std::vector<std::string> texts;
         texts.reserve(scalars.size());
-        for (const auto& scalar : scalars) texts.push_back(printScalar(scalar));
+        for (const auto& scalar : scalars) texts.push_back(printScalar(scalar, form));
         return texts;
       },
       value);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "platform/ORV_1_0/OrvApi.h"
@@ -18,9 +19,28 @@ struct ParsedValue {
 /// floats may be "inf", "-inf" and "nan"; a string is its own text.
 ORV_EXPORT ParsedValue parseValue(const ValueType& type, const std::vector<std::string>& texts);
 
+/// How floats are shown.
+struct FloatForm {
+  enum class Style : std::uint8_t {
+    Shortest,   ///< the fewest digits that give the number back
+    Fixed,      ///< `digits` decimals
+    Scientific  ///< one digit, `digits` decimals, and the power of ten
+  };
+  Style style = Style::Shortest;
+
+  static constexpr std::uint8_t kMostDigits = 20;
+  std::uint8_t digits = 6;
+
+  bool operator==(const FloatForm&) const = default;
+};
+
 /// One text a component, such that `parseValue` gives the same value back. A float gets the fewest
 /// digits that do so.
 ORV_EXPORT std::vector<std::string> printValue(const Value& value);
+
+/// One text a component, with floats in that form, of at most `kMostDigits` decimals. What is no
+/// float is as ever.
+ORV_EXPORT std::vector<std::string> printValue(const Value& value, const FloatForm& form);
 
 /// Zero, false or empty text in each component; no elements for an array.
 ORV_EXPORT Value zeroValue(const ValueType& type);

@@ -277,6 +277,12 @@ class RandomCommands {
     const PortHandle handle(port);
     if (!command->createWatchPoint(handle)) command->removeWatchPoint(handle);
     command->enableWatchPoint(handle, below(2) == 0);
+    static constexpr const char* kParameters[][2] = {
+        {"record", "changes"}, {"limit", "7"},           {"format", "fixed"},
+        {"digits", "2"},       {"format", "scientific"}, {"format", "shortest"},
+    };
+    const auto& [name, value] = kParameters[below(std::size(kParameters))];
+    command->setWatchPointParameter(handle, name, value);
     return redone(command);
   }
 

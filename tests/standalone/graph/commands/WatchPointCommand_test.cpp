@@ -43,6 +43,22 @@ TEST_F(WatchPointCommandTest, RefusesUnknownParametersAndValues) {
   EXPECT_FALSE(command_.setWatchPointParameter(handle_, "none", "1"));
   EXPECT_FALSE(command_.setWatchPointParameter(handle_, "limit", "0"));
   EXPECT_FALSE(command_.setWatchPointParameter(handle_, "record", "some"));
+  EXPECT_FALSE(command_.setWatchPointParameter(handle_, "format", "long"));
+}
+
+TEST_F(WatchPointCommandTest, SetsEachParameterThatThereIs) {
+  ASSERT_TRUE(command_.createWatchPoint(handle_));
+  ASSERT_TRUE(command_.redo());
+  const std::string before = text();
+  ORV_v1::WatchPointCommand setting;
+  for (const auto& [name, value] :
+       {std::pair{"record", "changes"}, {"limit", "9"}, {"format", "fixed"}, {"digits", "2"}}) {
+    ASSERT_TRUE(setting.setWatchPointParameter(handle_, name, value)) << name;
+  }
+  ASSERT_TRUE(setting.redo());
+  EXPECT_EQ(port("/a.result")->watchPoint()->setup(),
+            (WatchPointSetup{true, true, 9, {FloatForm::Style::Fixed, 2}}));
+  expectReversible(setting, before);
 }
 
 TEST_F(WatchPointCommandTest, UndoGivesBackTheVeryWatchPoint) {

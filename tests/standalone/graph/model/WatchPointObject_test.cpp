@@ -1,5 +1,7 @@
 #include "standalone/graph/model/WatchPointObject.h"
 
+#include <set>
+
 #include "standalone/graph/api/GraphAccess.h"
 #include "tests/standalone/graph/GraphFixture.h"
 
@@ -37,7 +39,13 @@ class WatchPoint : public GraphFixture {
   }
 
   void setUp(bool enabled, bool changesOnly, std::uint32_t limit) {
-    EXPECT_TRUE(edits_.run(SetUpWatchPoint{watched_, {enabled, changesOnly, limit}}));
+    EXPECT_TRUE(edits_.run(SetUpWatchPoint{watched_, {enabled, changesOnly, limit, {}}}));
+  }
+
+  void show(FloatForm::Style style, std::uint8_t digits) {
+    WatchPointSetup setup = watched_->setup();
+    setup.form = {style, digits};
+    EXPECT_TRUE(edits_.run(SetUpWatchPoint{watched_, setup}));
   }
 
   void record(std::initializer_list<float> values) {
@@ -56,31 +64,35 @@ TEST_F(WatchPoint, IsEnabledAtFirst) {
 
 TEST_F(WatchPoint, NamesItsParameters) {
   EXPECT_EQ(texts([&](auto& names) { return watched_->getParameterNames(names); }),
-            (Strings{"record", "limit"}));
+            (Strings{"record", "limit", "format", "digits"}));
 }
 
 TEST_F(WatchPoint, ListsTheValuesOfAChoice) {
   EXPECT_EQ(texts([&](auto& values) { return watched_->getParameterValues("record", values); }),
             (Strings{"all", "changes"}));
+  EXPECT_EQ(texts([&](auto& values) { return watched_->getParameterValues("format", values); }),
+            (Strings{"shortest", "fixed", "scientific"}));
 }
 
 TEST_F(WatchPoint, ListsNoValuesOfANumber) {
-  EXPECT_EQ(texts([&](auto& values) { return watched_->getParameterValues("limit", values); }),
-            Strings{});
+  for (const char* name : {"limit", "digits"}) {
+    EXPECT_EQ(texts([&](auto& values) { return watched_->getParameterValues(name, values); }),
+              Strings{});
+  }
 }
 
 TEST_F(WatchPoint, DescribesEachParameterAndEachChoice) {
-  for (const char* name : {"record", "limit"}) {
-    EXPECT_EQ(
-        text([&](auto& answer) { return watched_->getParameterDescription(name, answer); }).back(),
-        '.');
+  std::set<std::string> all;
+  for (const WatchPointParameter& one : watchPointParameters()) {
+    all.insert(text([&](auto& text) { return watched_->getParameterDescription(one.name, text); }));
+    for (const WatchPointChoice& choice : one.choices) {
+      all.insert(text([&](auto& text) {
+        return watched_->getParameterValueDescription(one.name, choice.value, text);
+      }));
+    }
   }
-  for (const char* value : {"all", "changes"}) {
-    EXPECT_EQ(text([&](auto& answer) {
-                return watched_->getParameterValueDescription("record", value, answer);
-              }).back(),
-              '.');
-  }
+  EXPECT_EQ(all.size(), 4u + 2u + 3u);
+  for (const std::string& description : all) EXPECT_EQ(description.back(), '.') << description;
 }
 
 TEST_F(WatchPoint, HasNoAnswerForAnUnknownParameter) {
@@ -118,19 +130,6 @@ TEST_F(WatchPoint, GivesTheValuesOfItsParameters) {
   EXPECT_EQ(parameter("limit"), "5");
 }
 
-TEST_F(WatchPoint, ASetupTakesOnlyWhatAParameterCanBe) {
-  WatchPointSetup setup;
-  EXPECT_TRUE(setup.set("record", "changes"));
-  EXPECT_TRUE(setup.set("limit", "1000000"));
-  EXPECT_EQ(setup, (WatchPointSetup{true, true, 1000000}));
-  for (const char* limit : {"0", "-1", "1000001", "4294967297", "", "1 ", "1.5", "ten"}) {
-    EXPECT_FALSE(setup.set("limit", limit)) << limit;
-  }
-  for (const char* choice : {"", "All", "none"}) EXPECT_FALSE(setup.set("record", choice));
-  EXPECT_FALSE(setup.set("other", "all"));
-  EXPECT_EQ(setup, (WatchPointSetup{true, true, 1000000}));
-}
-
 TEST_F(WatchPoint, NamesWhatItRecords) {
   EXPECT_EQ(texts([&](auto& names) { return watched_->getRecordNames(names); }),
             (Strings{"value", "evaluation"}));
@@ -146,6 +145,32 @@ TEST_F(WatchPoint, GivesAValueOfSeveralComponentsAsAList) {
   watched_->record(1, Floats{1, 2, 3});
   watched_->record(2, Texts{"a,b"});
   EXPECT_EQ(recorded(), (Strings{"{1,2,3}", "a\\,b"}));
+}
+
+TEST_F(WatchPoint, ShowsFloatsInItsFormat) {
+  record({0.1F, -2e8F});
+  show(FloatForm::Style::Fixed, 3);
+  EXPECT_EQ(recorded(), (Strings{"0.100", "-200000000.000"}));
+  show(FloatForm::Style::Scientific, 1);
+  EXPECT_EQ(recorded(), (Strings{"1.0e-01", "-2.0e+08"}));
+  ASSERT_TRUE(edits_.revert());
+  EXPECT_EQ(recorded(), (Strings{"0.1", "-2e+08"}));
+}
+
+TEST_F(WatchPoint, TheFormatIsThatOfFloatsInValues) {
+  show(FloatForm::Style::Fixed, 2);
+  watched_->record(1, Floats{1, 0.125F});
+  watched_->record(2, Integers{7});
+  watched_->record(3, Texts{"0.1"});
+  EXPECT_EQ(recorded(), (Strings{"{1.00,0.12}", "7", "0.1"}));
+  EXPECT_EQ(recorded("evaluation"), (Strings{"1", "2", "3"}));
+}
+
+TEST_F(WatchPoint, RecordsAChangeThatTheFormatHides) {
+  setUp(true, true, 100);
+  show(FloatForm::Style::Fixed, 0);
+  record({1, 1.25F, 1.25F});
+  EXPECT_EQ(recorded(), (Strings{"1", "1"}));
 }
 
 TEST_F(WatchPoint, HasNoRecordsOfAnUnknownName) {

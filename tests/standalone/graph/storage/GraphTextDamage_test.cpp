@@ -191,6 +191,14 @@ TEST_F(DamagedGraphText, OfBadWatchPoints) {
   expectRefused(add + "  watch a some 1\n", 2, "'some' cannot be recorded");
   expectRefused(add + "  watch a all 0\n", 2, "'0' is no limit");
   expectRefused(add + "  watch a all 1 on\n", 2, "'on' is not off");
+  expectRefused(add + "  watch a all 1 on format fixed\n", 2, "'on' is not off");
+  expectRefused(add + "  watch a all 1 off format\n", 2, "'off' is no further parameter");
+  expectRefused(add + "  watch a all 1 limit 2\n", 2, "'limit' is no further parameter");
+  expectRefused(add + "  watch a all 1 format long\n", 2,
+                "the parameter 'format' cannot be 'long'");
+  expectRefused(add + "  watch a all 1 digits 21\n", 2, "the parameter 'digits' cannot be '21'");
+  expectRefused(add + "  watch a all 1 digits 2 digits 2\n", 2,
+                "the parameter 'digits' comes twice");
   expectRefused(add + "  watch a all 1\n  watch a all 1\n", 3, "'a' is watched already");
   expectRefused(add + "  watch-metadata a k v\n", 2, "'a' is not watched");
 }

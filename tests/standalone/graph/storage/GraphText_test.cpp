@@ -192,6 +192,20 @@ TEST_F(GraphText, KeepsAnnotations) {
   EXPECT_THAT(names(top().annotations()), ElementsAre("z", "a", "m"));
 }
 
+TEST_F(GraphText, KeepsTheFormatOfWatchPoints) {
+  expectKept(
+      "  node n core::math::add\n    watch a all 100 format fixed\n"
+      "    watch b all 100 off digits 3\n"
+      "    watch result changes 5 off format scientific digits 0\n");
+  EXPECT_EQ(graph_.findPort("/n.result", 2, 1)->watchPoint()->setup(),
+            (WatchPointSetup{false, true, 5, {FloatForm::Style::Scientific, 0}}));
+}
+
+TEST_F(GraphText, ReadsTheFormatOfWatchPointsInAnyOrderAndWithoutNeed) {
+  load(withBlock("  node n core::math::add\n    watch a all 9 digits 3 format shortest\n"));
+  EXPECT_EQ(writeGraph(graph_).find("watch"), writeGraph(graph_).find("watch a all 9 digits 3\n"));
+}
+
 TEST_F(GraphText, KeepsWatchPointsOfBothFaces) {
   expectKept(
       "  compound c\n    port in v vector3\n    watch v all 100\n    watch-metadata v k 1\n"

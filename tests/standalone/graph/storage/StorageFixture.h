@@ -73,7 +73,8 @@ graph
     port in si float
     port out so float
     pair si so
-    watch si changes 7 off
+    watch si changes 7 off format fixed digits 2
+    watch so all 100 format scientific
     node m core::math::add
     io out z
       show so

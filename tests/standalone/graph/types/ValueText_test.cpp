@@ -151,6 +151,36 @@ TEST(ValueText, TheZeroValueFitsItsType) {
   EXPECT_THAT(printValue(zeroValue(arrayOf(pairType()))), ElementsAre());
 }
 
+TEST(ValueText, FloatsInAForm) {
+  using orvlib::FloatForm;
+  const auto shown = [](float number, FloatForm form) {
+    return printValue(orvlib::Floats{number}, form).front();
+  };
+  EXPECT_EQ(shown(0.1F, {FloatForm::Style::Shortest, 2}), "0.1");
+  EXPECT_EQ(shown(0.1F, {FloatForm::Style::Fixed, 2}), "0.10");
+  EXPECT_EQ(shown(0.1F, {FloatForm::Style::Fixed, 0}), "0");
+  EXPECT_EQ(shown(-1234.5F, {FloatForm::Style::Scientific, 2}), "-1.23e+03");
+  EXPECT_EQ(shown(0.1F, {FloatForm::Style::Fixed, 12}), "0.100000001490");
+  for (const auto style : {FloatForm::Style::Fixed, FloatForm::Style::Scientific}) {
+    EXPECT_EQ(shown(std::numeric_limits<float>::infinity(), {style, 3}), "inf");
+    EXPECT_EQ(shown(std::numeric_limits<float>::quiet_NaN(), {style, 3}), "nan");
+  }
+}
+
+TEST(ValueText, TheLongestFloatHasRoom) {
+  using orvlib::FloatForm;
+  const float least = std::numeric_limits<float>::lowest();
+  EXPECT_THAT(printValue(orvlib::Floats{least}, {FloatForm::Style::Fixed, FloatForm::kMostDigits}),
+              ElementsAre("-340282346638528859811704183484516925440.00000000000000000000"));
+}
+
+TEST(ValueText, AFormIsForFloatsAlone) {
+  const orvlib::FloatForm form{orvlib::FloatForm::Style::Fixed, 3};
+  EXPECT_THAT(printValue(orvlib::Integers{1, -2}, form), ElementsAre("1", "-2"));
+  EXPECT_THAT(printValue(orvlib::Booleans{true}, form), ElementsAre("true"));
+  EXPECT_THAT(printValue(orvlib::Texts{"0.5"}, form), ElementsAre("0.5"));
+}
+
 TEST(ValueText, AValueHasTheScalarKindOfItsType) {
   for (auto kind :
        {ScalarKind::Boolean, ScalarKind::Integer, ScalarKind::Float, ScalarKind::String}) {
