@@ -33,8 +33,7 @@ void WatchPointObject::record(std::uint64_t evaluation, const Value& value) {
   due_ = false;
   const bool same = !records_.empty() && sameValue(records_.back().value, value);
   if (setup_.changesOnly && same) return;
-  records_.push_back({evaluation, value});
-  while (records_.size() > setup_.limit) records_.pop_front();
+  records_.push({evaluation, value}, setup_.limit);
 }
 
 bool WatchPointObject::getParameterNames(ORV_v1::StringArray& names) {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 
 #include "platform/ORV_1_0/WatchPoint.h"
 #include "standalone/graph/model/Handles.h"
+#include "standalone/graph/model/Ring.h"
 #include "standalone/graph/model/WatchPointSetup.h"
 #include "standalone/graph/model/WithMetadata.h"
 #include "standalone/graph/types/Value.h"
@@ -14,6 +14,11 @@ namespace orvlib {
 /// What the library knows of a watch point.
 class ORV_EXPORT WatchPointObject final : public WithMetadata<ORV_v1::WatchPoint> {
  public:
+  struct Record {
+    std::uint64_t evaluation;
+    Value value;
+  };
+
   const WatchPointSetup& setup() const { return setup_; }
 
   /// Null when it is on no port.
@@ -21,6 +26,9 @@ class ORV_EXPORT WatchPointObject final : public WithMetadata<ORV_v1::WatchPoint
 
   /// Whether it waits for the first record since it came to its port or was enabled.
   bool isDue() const { return due_; }
+
+  /// What it holds. After the limit was lowered these may be more than are shown.
+  const Ring<Record>& records() const { return records_; }
 
   /// Notes what the port gave at the evaluation of that number, as `setup` says.
   void record(std::uint64_t evaluation, const Value& value);
@@ -39,15 +47,11 @@ class ORV_EXPORT WatchPointObject final : public WithMetadata<ORV_v1::WatchPoint
  private:
   friend class Mutator;
   friend class PortObject;
-  struct Record {
-    std::uint64_t evaluation;
-    Value value;
-  };
 
   PortObject* port_ = nullptr;
   bool due_ = false;
   WatchPointSetup setup_;
-  std::deque<Record> records_;
+  Ring<Record> records_;
 };
 
 }  // namespace orvlib

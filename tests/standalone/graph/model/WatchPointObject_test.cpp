@@ -173,6 +173,18 @@ TEST_F(WatchPoint, RecordsAChangeThatTheFormatHides) {
   EXPECT_EQ(recorded(), (Strings{"1", "1"}));
 }
 
+TEST_F(WatchPoint, AMillionRecordsTakeNoMoreRoomThanItsLimit) {
+  constexpr std::uint32_t kLimit = 100000;
+  setUp(true, false, kLimit);
+  for (std::uint64_t i = 1; i <= 10 * kLimit; ++i) {
+    watched_->record(i, Floats{static_cast<float>(i)});
+    ASSERT_LE(watched_->records().capacity(), kLimit) << i;
+  }
+  ASSERT_EQ(watched_->records().size(), kLimit);
+  EXPECT_EQ(watched_->records()[0].evaluation, 9 * kLimit + 1);
+  EXPECT_EQ(recorded("evaluation").back(), "1000000");
+}
+
 TEST_F(WatchPoint, HasNoRecordsOfAnUnknownName) {
   for (const char* name : {"", "other", static_cast<const char*>(nullptr)}) {
     EXPECT_EQ(recorded(name), Strings{"no answer"});
