@@ -189,6 +189,7 @@ TEST_F(PasteCommandRandom, SubgraphsHaveAllThatACopyCarries) {
                                 " -> #",
                                 " <- #",
                                 " <- /",
+                                "\\.\\w+\\.\\w+ <- /",
                                 "inside\\.\\w+ -> ",
                                 "is a member",
                                 " = ",

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/ORV_1_0/CopyCommand.h"
-#include "standalone/graph/edits/Transaction.h"
+#include "standalone/graph/edits/Wiring.h"
 #include "tests/standalone/graph/commands/RandomCommands.h"
 #include "tests/standalone/graph/commands/SubgraphFacts.h"
 
@@ -19,7 +19,10 @@ class RandomSubgraph {
     for (int i = 0; i < 150; ++i) commands.next();
     while (top.nodes().count() < 3) addNode(top);
     collect(top, levels);
-    for (CompoundObject* one : levels) decorate(*one);
+    for (CompoundObject* one : levels) {
+      decorate(*one);
+      addFanIn(*one);
+    }
     choose();
   }
 
@@ -54,8 +57,21 @@ class RandomSubgraph {
   unsigned below(std::size_t count) { return static_cast<unsigned>(random_() % count); }
   bool isOneIn(unsigned count) { return below(count) == 0; }
 
-  void addNode(CompoundObject& to) {
-    const auto definition = graph.core().findDefinition("core::vector::vector3::add");
+  /// A node that adds up what some others give.
+  void addFanIn(CompoundObject& to) {
+    const auto sources = to.nodes().count();
+    addNode(to, "core::array::sum");
+    PortObject& fanIn = *to.nodes().at(sources)->inputList().at(0);
+    for (unsigned i = 0; i < sources; ++i) {
+      const PortListObject& outputs = to.nodes().at(i)->outputList();
+      if (outputs.count() == 0 || to.nodes().at(i)->nodeKind() != NodeKind::Plain) continue;
+      Transaction edits;
+      if (!runConnect(edits, *outputs.at(0), fanIn, Occupied::Refuse)) edits.rollback();
+    }
+  }
+
+  void addNode(CompoundObject& to, const char* type = "core::vector::vector3::add") {
+    const auto definition = graph.core().findDefinition(type);
     const NodeRef node =
         NodeFactory(graph.core()).makePlain(*definition, to.nodes().uniqueName("node"));
     run(InsertNode{{CompoundRef(&to), node, to.nodes().count()}});
