@@ -99,9 +99,10 @@ class Attempt {
 std::string publishedAs(const std::string& name) { return "published as " + apart(name); }
 
 /// The compound becomes an unchanged copy of what it was published as. One that is a reference to
-/// another stays that, and so does one that must not be edited where it is.
+/// another stays that, and so does one that must not be edited where it is. One that lies in a
+/// reference to what it replaced is gone by now.
 void setPublishedOrigin(CompoundObject& compound, const std::string& name) {
-  const CompoundObject* level = compound.node()->parent();
+  const CompoundObject* level = compound.node() ? compound.node()->parent() : nullptr;
   if (!level || !level->isOpenToEdits() || compound.isReference()) return;
   ContainerObject* container = compound.node()->container();
   std::optional<ChangeHold> hold;

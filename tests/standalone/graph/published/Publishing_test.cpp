@@ -107,6 +107,16 @@ TEST_F(Publish, AReferenceStaysTheReferenceThatItIs) {
   EXPECT_EQ(reference->origin(), "core::soft");
 }
 
+TEST_F(Publish, InThePlaceOfTheReferenceThatItLiesInWorks) {
+  addCompound(*soft_, "inner");
+  publish();
+  const CompoundRef reference(instance("core::soft", "one"));
+  const CompoundRef inner(graph_.findNode("/one/inner")->compound());
+  EXPECT_EQ(publish(*inner, "soft", "", true), "");
+  EXPECT_EQ(inner->node(), nullptr) << "what followed has no such level any more";
+  EXPECT_EQ(reference->getChildNodes().size(), 0u);
+}
+
 TEST_F(Publish, TheValuesOfInputsAreTheDefaults) {
   PortObject* size = port("/soft.size");
   ASSERT_TRUE(
