@@ -1,0 +1,3 @@
+#include "editors/editorNames.h"
+
+const KString kParameterEditorCommand("orvParameterEditor");

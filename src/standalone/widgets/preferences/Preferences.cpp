@@ -1,0 +1,44 @@
+#include "standalone/widgets/preferences/Preferences.h"
+
+#include "standalone/widgets/hooks/HookRegistry.h"
+
+namespace orvuilib {
+
+using orvUI_v1::AppServicesHook;
+
+/// Never destroyed: an editor may still ask while the program goes down.
+Preferences& Preferences::instance() {
+  static Preferences& only = *new Preferences;
+  return only;
+}
+
+void Preferences::replaceAll(const QJsonObject& preferences) {
+  if (preferences == all_) return;
+  all_ = preferences;
+  everHadAny_ = true;
+  emit changed();
+}
+
+QJsonObject Preferences::section(const QString& name) const { return all_.value(name).toObject(); }
+
+void Preferences::setSection(const QString& name, const QJsonObject& section) {
+  QJsonObject all = all_;
+  if (section.isEmpty()) {
+    all.remove(name);
+  } else {
+    all.insert(name, section);
+  }
+  if (all == all_) return;
+  replaceAll(all);
+  if (AppServicesHook* hook = HookRegistry::appServicesHook()) {
+    hook->syncUserPrefs(AppServicesHook::kSavePrefs);
+  }
+}
+
+void Preferences::setMouseButtons(int count) {
+  if (count < 1 || count > 3 || count == mouseButtons_) return;
+  mouseButtons_ = count;
+  emit changed();
+}
+
+}  // namespace orvuilib

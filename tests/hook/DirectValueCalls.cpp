@@ -1,0 +1,60 @@
+#include "tests/hook/DirectValueCalls.h"
+
+#include <dlfcn.h>
+
+#include "platform/ORV_1_0/ModifyCompoundPortCommand.h"
+#include "platform/ORV_1_0/ModifyNodePortCommand.h"
+
+namespace {
+
+/// The library's own definition of the operation of that symbol.
+template <class Result, class... Arguments>
+auto library(const char* symbol) {
+  void* found = dlsym(RTLD_NEXT, symbol);
+  if (!found) ADD_FAILURE() << "the graph library has no " << symbol;
+  return reinterpret_cast<Result (*)(Arguments...)>(found);
+}
+
+void note(const std::string& target, const char* name, const ORV_v1::StringArray& values,
+          bool interactive) {
+  if (!DirectValueCalls::current) return;
+  std::string list;
+  for (unsigned int i = 0; i < values.size(); ++i) list += std::string(i ? "," : "") + values[i];
+  DirectValueCalls::current->note(target + " " + name + " {" + list + "}" +
+                                  (interactive ? " interactive" : ""));
+}
+
+}  // namespace
+
+DirectValueCalls* DirectValueCalls::current = nullptr;
+
+DirectValueCalls::DirectValueCalls() { current = this; }
+DirectValueCalls::~DirectValueCalls() { current = nullptr; }
+
+void DirectValueCalls::note(const std::string& call) {
+  texts_.push_back(call);
+  if (atCall) atCall();
+}
+
+namespace ORV_v1 {
+
+bool ModifyNodePortCommand::setPortValues(const AddRefWrapper<Node>& node, const char* name,
+                                          const StringArray& values, bool interactive) {
+  note(std::string("node ") + node->getFullPathName().getName(), name, values, interactive);
+  static const auto own = library<bool, ModifyNodePortCommand*, const AddRefWrapper<Node>&,
+                                  const char*, const StringArray&, bool>(
+      "_ZN6ORV_v121ModifyNodePortCommand13setPortValuesERKNS_13AddRefWrapperINS_4NodeEEEPKcRKNS_"
+      "11StringArrayEb");
+  return own(this, node, name, values, interactive);
+}
+
+bool ModifyCompoundPortCommand::setPortValues(const char* name, const StringArray& values,
+                                              bool interactive) {
+  note("compound", name, values, interactive);
+  static const auto own =
+      library<bool, ModifyCompoundPortCommand*, const char*, const StringArray&, bool>(
+          "_ZN6ORV_v125ModifyCompoundPortCommand13setPortValuesEPKcRKNS_11StringArrayEb");
+  return own(this, name, values, interactive);
+}
+
+}  // namespace ORV_v1
