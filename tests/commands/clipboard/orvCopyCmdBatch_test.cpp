@@ -213,4 +213,45 @@ TEST_F(CopyBatchDeathTest, ASystemsClipboardThatRefusesFailsTheCopyWithoutAMessa
       ExitedWithCode(1), "");
 }
 
+// The host's own answer.
+
+class CopyOwnAbout : public ClipboardTest {
+ protected:
+  CopyOwnAbout() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+
+  /// Copies in a host with these options; gives whether it went to the system's clipboard.
+  static bool copiesToTheSystems(bool batch) {
+    vesk::SessionOptions options;
+    options.batch = batch;
+    hosttest::GraphHost other(options);
+    registerMessages();
+    other.session().registry().add(
+        {"orvCompound", orvCompoundCmd::creator, orvCompoundCmd::createSyntax(), nullptr, {}});
+    other.session().registry().add(
+        {"orvCopy", orvCopyCmd::creator, orvCopyCmd::createSyntax(), nullptr, {}});
+    other.graph("batched");
+    other.run("orvCompound batched \"/\" -addNode core::math::add");
+    TrialClipboard system;
+    Clipboard::install(&system);
+    Clipboard::setLocal(!batch);
+    other.run("orvCopy batched \"/\" -src add");
+    return system.held != "untouched";
+  }
+
+  [[noreturn]] static void answer(bool yes) {
+    std::fflush(nullptr);
+    std::_Exit(yes ? 1 : 0);
+  }
+};
+
+using CopyOwnAboutDeathTest = CopyOwnAbout;
+
+TEST_F(CopyOwnAboutDeathTest, OfAHostInBatchLeavesTheSystemsAlone) {
+  EXPECT_EXIT(answer(copiesToTheSystems(true) || HasFailure()), ExitedWithCode(0), "");
+}
+
+TEST_F(CopyOwnAboutDeathTest, OfAHostThatSomebodySitsInFrontOfTakesTheSystems) {
+  EXPECT_EXIT(answer(copiesToTheSystems(false) && !HasFailure()), ExitedWithCode(1), "");
+}
+
 }  // namespace

@@ -227,6 +227,13 @@ TEST_F(CopyTest, ChangesNoGraphAndTellsOfNoChange) {
   EXPECT_EQ(stored(), before);
 }
 
+TEST_F(CopyTest, OpensNoBracket) {
+  const auto& object = static_cast<const orvlib::ContainerObject&>(graph);
+  const std::uint64_t before = object.bracketRound();
+  copy("-src \"{a,b,c}\" -san frame");
+  EXPECT_EQ(object.bracketRound(), before);
+}
+
 TEST_F(CopyTest, IsNoStepToUndo) {
   host.run("orvCompound g \"/\" -addNode core::math::add");
   copy("-src add");

@@ -262,4 +262,29 @@ TEST_F(WatchPointRedo, WhicheverCallOfALineIsRefusedTheUndoQueueFits) {
   }
 }
 
+// Names that are empty reach the library, which knows none of that name.
+
+TEST_F(WatchPointRedo, AnEmptyParameterNameIsAskedForAsItStands) {
+  run("-create");
+  for (const auto& [flags, call] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"-qpd \"\"", "WatchPoint getParameterDescription"},
+           {"-qvs \"\"", "WatchPoint getParameterValues"},
+           {"-qvd \"\" all", "WatchPoint getParameterValueDescription"},
+           {"-qvd record \"\"", "WatchPoint getParameterValueDescription"},
+           {"-qpv \"\"", "WatchPoint getParameterValue"},
+           {"-qrv \"\"", "WatchPoint getRecordedValues"}}) {
+    const ArmedFault counting(1'000'000u);
+    EXPECT_THAT(refusal(flags), IsEmpty()) << flags;
+    EXPECT_THAT(orvlib::FaultPoints::askedNames(), testing::Contains(call)) << flags;
+  }
+}
+
+TEST_F(WatchPointRedo, AnEmptyParameterNameIsSetAsItStands) {
+  run("-create");
+  const ArmedFault counting(1'000'000u);
+  run("-spv \"\" \"\"");
+  EXPECT_THAT(orvlib::FaultPoints::askedNames(),
+              testing::Contains("WatchPointCommand setWatchPointParameter"));
+}
+
 }  // namespace
