@@ -53,11 +53,14 @@ KStatus orvPasteCmd::parseArgs(const KArgList& args) {
   return StatusSuccess;
 }
 
+/// What has gone since the line was read is told. Without the compound the bracket is that of the
+/// container, and the library decides; without the container there is nothing left to change.
 KStatus orvPasteCmd::runInBracket(bool (PasteCommand::*part)()) {
+  AddRefWrapper<Compound> compound = requireCompound(compoundPath);
   Container* container = findContainer(containerName);
   if (!container) return StatusFailure;
-  const ORV_v1::ChangeBracket bracket =
-      container->makeChangeBracket(requireCompound(compoundPath).get());
+  const ORV_v1::ChangeBracket bracket = container->makeChangeBracket(compound.get());
+  compound = AddRefWrapper<Compound>();
   return (pasteCommand.*part)() ? StatusSuccess : StatusFailure;
 }
 

@@ -4,10 +4,9 @@
 #include <functional>
 #include <type_traits>
 
-#include "platform/ORV_1_0/NodeCommand.h"
 #include "standalone/host/engine/SyntaxData.h"
 #include "standalone/host/scene/Scene.h"
-#include "tests/commands/clipboard/ClipboardTesting.h"
+#include "tests/commands/clipboard/PasteTesting.h"
 #include "tests/support/VirtualTable.h"
 
 namespace {
@@ -67,37 +66,6 @@ TEST(PasteSyntax, DeclaresTwoTextsAndOneFlag) {
   EXPECT_FALSE(data.hasEdit());
 }
 
-/// Keeps its object on the undo queue although the paste failed.
-class KeptPaste final : public orvPasteCmd {
- public:
-  static KPxCommand* creator() { return new KeptPaste; }
-  KStatus doIt(const KArgList& args) override {
-    last = this;
-    orvPasteCmd::doIt(args);
-    return StatusSuccess;
-  }
-  static inline orvPasteCmd* last = nullptr;
-};
-
-class PasteTest : public ClipboardTest {
- protected:
-  void copy(const std::string& flags) { host.run("orvCopy g \"/\" " + flags); }
-  std::string paste(const std::string& path, const std::string& flags = "") {
-    return host.run("orvPaste g \"" + path + "\" " + flags);
-  }
-
-  /// Runs `orvPaste ARGUMENTS`, which must fail with this status and change nothing.
-  Texts failure(const std::string& arguments, KStatusCode status = StatusFailure) {
-    const std::string before = stored();
-    const std::size_t steps = host.steps().size();
-    EXPECT_EQ(host.status("orvPaste " + arguments), status) << arguments;
-    EXPECT_EQ(stored(), before) << arguments;
-    EXPECT_THAT(host.steps(), SizeIs(steps));
-    EXPECT_FALSE(graph.activeChangeBracket());
-    return host.takeMessages();
-  }
-};
-
 TEST_F(PasteTest, AddsWhatWasCopied) {
   copy("-src a -src b -san frame");
   paste("/group");
@@ -150,6 +118,30 @@ TEST_F(PasteTest, PastesIntoAnotherGraph) {
   copy("-src a");
   host.run("orvPaste other \"/\"");
   EXPECT_TRUE(other.findNodeFromPath("/a"));
+}
+
+/// What has the path of a source there is something else.
+TEST_F(PasteTest, InAnotherGraphConnectionsFromOutsideStayOut) {
+  ORV_v1::Container& other = host.graph("other");
+  host.run("orvCompound other \"/\" -addNode core::math::negate -renameNode negate a");
+  copy("-src b");
+  host.run("orvPaste other \"/\" -dsc");
+  const ORV_v1::AddRefWrapper<ORV_v1::Port> input = other.findPortFromPath(
+      "/b.value", ORV_v1::Container::kSearchInput, ORV_v1::Container::kSearchOuter);
+  ASSERT_TRUE(input);
+  EXPECT_EQ(input->connectedTo().size(), 0u);
+  paste("/", "-dsc");
+  EXPECT_EQ(sourceOf("/b1.value"), "/a.result") << "and where they are from they do not";
+}
+
+TEST_F(PasteTest, ASourceThatHasGoneIsLeftOut) {
+  host.run("orvCompound g \"/\" -addNode core::math::negate -renameNode negate b1");
+  host.run("orvConnect g /b1.result /c.value");
+  copy("-src b -src c");
+  host.run("orvCompound g \"/\" -removeNode b1");
+  paste("/", "-dsc");
+  EXPECT_EQ(sourceOf("/b1.value"), "/a.result") << "the copy of b has the name";
+  EXPECT_EQ(sourceOf("/c1.value"), "");
 }
 
 TEST_F(PasteTest, FindsTheContainerByItsIdentifier) {
@@ -232,63 +224,6 @@ TEST_F(PasteTest, ARedoIsInABracketOfTheCompoundToo) {
 TEST_F(PasteTest, AFailedPasteClosesItsBracket) {
   EXPECT_THAT(failure("g /group"), IsEmpty());
   EXPECT_FALSE(compound("/group")->activeChangeBracket());
-}
-
-// The compound goes while the paste is on the undo queue: the lookup says so, and the undo goes on
-// with a bracket of the container.
-
-class PasteGone : public PasteTest {
- protected:
-  PasteGone() {
-    addCommand("keptPaste", KeptPaste::creator, orvPasteCmd::createSyntax());
-    copy("-src a");
-    host.run("keptPaste g /group");
-  }
-
-  /// Takes the node out of the graph, past the host's undo queue.
-  void remove(const char* name) {
-    ORV_v1::NodeCommand command;
-    EXPECT_TRUE(command.removeNode(compound("/"), name));
-    EXPECT_TRUE(command.doit());
-  }
-};
-
-TEST_F(PasteGone, OfACompoundThatWentTheUserIsToldWhenThePasteIsUndone) {
-  remove("group");
-  KeptPaste::last->undoIt();
-  EXPECT_THAT(host.takeMessages(), ElementsAre("! /group is not a compound name"));
-  EXPECT_FALSE(graph.activeChangeBracket());
-}
-
-TEST_F(PasteGone, AndWhenItIsRedone) {
-  EXPECT_EQ(KeptPaste::last->undoIt().statusCode(), StatusSuccess);
-  remove("group");
-  EXPECT_EQ(KeptPaste::last->redoIt().statusCode(), StatusFailure);
-  EXPECT_THAT(host.takeMessages(), ElementsAre("! /group is not a compound name"));
-}
-
-TEST_F(PasteGone, WhatTheLibraryRefusesToUndoOrRedoFails) {
-  {
-    const ArmedFault armed("PasteCommand undo");
-    EXPECT_EQ(KeptPaste::last->undoIt().statusCode(), StatusFailure);
-  }
-  EXPECT_EQ(KeptPaste::last->redoIt().statusCode(), StatusFailure) << "it is done already";
-  EXPECT_EQ(KeptPaste::last->undoIt().statusCode(), StatusSuccess);
-  EXPECT_EQ(KeptPaste::last->undoIt().statusCode(), StatusFailure) << "it is undone already";
-  {
-    const ArmedFault armed("PasteCommand redo");
-    EXPECT_EQ(KeptPaste::last->redoIt().statusCode(), StatusFailure);
-  }
-  EXPECT_EQ(KeptPaste::last->redoIt().statusCode(), StatusSuccess);
-  EXPECT_THAT(nodes("/group"), ElementsAre("a"));
-}
-
-TEST_F(PasteGone, ACompoundThatWasLockedSinceIsUndoneAndRedoneAllTheSame) {
-  host.run("orvCompound g /group -setMetaData locked true");
-  EXPECT_EQ(KeptPaste::last->undoIt().statusCode(), StatusSuccess);
-  EXPECT_THAT(nodes("/group"), IsEmpty());
-  EXPECT_EQ(KeptPaste::last->redoIt().statusCode(), StatusSuccess);
-  EXPECT_THAT(nodes("/group"), ElementsAre("a"));
 }
 
 // Refusals.

@@ -1,10 +1,10 @@
 #include "platform/ORV_1_0/PasteCommand.h"
 
 #include "standalone/graph/clipboard/Clipboard.h"
+#include "standalone/graph/commands/BroughtTypes.h"
 #include "standalone/graph/commands/LevelLink.h"
 #include "standalone/graph/edits/WireRules.h"
 #include "standalone/graph/edits/Wiring.h"
-#include "standalone/graph/storage/GraphText.h"
 
 namespace ORV_v1 {
 namespace {
@@ -67,14 +67,24 @@ struct PasteCommand::Rep {
 
   /// Keeps what a paste that is undone goes back to.
   Selection selection;
+  BroughtTypes types;
   RecordedCommand command;
 
-  bool runConnectInputs(Transaction& edits, const CompoundObject& level) const {
+  /// The source of each connection from outside; null for one that is not to be had.
+  std::vector<PortObject*> findSources(const CompoundObject& level) const {
+    std::vector<PortObject*> sources;
     for (const IncomingWire& wire : selection.incoming) {
-      PortObject* source = duplicatesInputs ? sourceAt(level, wire.source) : nullptr;
-      if (source && canConnect(*source, *wire.target)) {
-        if (!edits.run(Connect{{PortRef(source), wire.target}})) return false;
-      } else if (!runDropMember(edits, *wire.target)) {
+      sources.push_back(duplicatesInputs ? sourceAt(level, wire.source) : nullptr);
+    }
+    return sources;
+  }
+
+  bool runConnectInputs(Transaction& edits, const std::vector<PortObject*>& sources) const {
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+      const PortRef& target = selection.incoming[i].target;
+      if (sources[i] && canConnect(*sources[i], *target)) {
+        if (!edits.run(Connect{{PortRef(sources[i]), target}})) return false;
+      } else if (!runDropMember(edits, *target)) {
         return false;
       }
     }
@@ -85,11 +95,26 @@ struct PasteCommand::Rep {
     CompoundObject* level = link.level();
     if (!level) return false;
     selection = Selection();
-    if (readSelection(Clipboard::text(), level->node()->core(), selection)) return false;
+    if (!types.read(Clipboard::text(), level->node()->core(), selection)) return false;
     CompoundObject& carrier = *selection.carrier->compound();
     if (!level->hasRoomForContentOf(carrier)) return false;
+    types.enter(level->node()->core());
+    // Once the nodes are there, one of them may have the path of a source that has gone.
+    const std::vector<PortObject*> sources = findSources(*level);
     return runMoveNodes(edits, carrier, *level) && runMoveAnnotations(edits, carrier, *level) &&
-           runConnectInputs(edits, *level);
+           runConnectInputs(edits, sources);
+  }
+
+  /// What is pasted again needs its types.
+  void bringTypes() const {
+    ContainerObject* graph = link.container();
+    if (graph && command.isBuilt()) types.enter(graph->core());
+  }
+
+  /// The types go along with what was pasted.
+  void dropTypesIfUndone() const {
+    ContainerObject* graph = link.container();
+    if (graph && !command.isDone()) types.leave(graph->core());
   }
 };
 
@@ -108,10 +133,17 @@ void PasteCommand::duplicateSourceInputConnections(bool duplicate) {
 bool PasteCommand::doit() { return !kDoit.refuses() && redo(); }
 
 bool PasteCommand::redo() {
-  return rep_->command.redo(kRedo, rep_->link.container(),
-                            [this](Transaction& edits) { return rep_->run(edits); });
+  rep_->bringTypes();
+  const bool done = rep_->command.redo(kRedo, rep_->link.container(),
+                                       [this](Transaction& edits) { return rep_->run(edits); });
+  rep_->dropTypesIfUndone();
+  return done;
 }
 
-bool PasteCommand::undo() { return rep_->command.undo(kUndo, rep_->link.container()); }
+bool PasteCommand::undo() {
+  const bool undone = rep_->command.undo(kUndo, rep_->link.container());
+  rep_->dropTypesIfUndone();
+  return undone;
+}
 
 }  // namespace ORV_v1

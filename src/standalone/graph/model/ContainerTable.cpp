@@ -31,6 +31,13 @@ ContainerObject* ContainerTable::find(std::string_view uuid) {
   return entry == table().end() ? nullptr : entry->second;
 }
 
+std::string ContainerTable::uuidOf(const ContainerObject& container) {
+  for (const auto& [uuid, entry] : table()) {
+    if (entry == &container) return uuid;
+  }
+  return {};
+}
+
 void ContainerTable::enter(ContainerObject& container) { living().push_back(&container); }
 
 void ContainerTable::leave(ContainerObject& container) { std::erase(living(), &container); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,9 @@ class ContainerTable {
 
   /// Null for an unknown UUID.
   static ContainerObject* find(std::string_view uuid);
+
+  /// The UUID that leads to the container; empty when none does.
+  static std::string uuidOf(const ContainerObject& container);
 
   /// A container comes to be, and goes.
   static void enter(ContainerObject& container);

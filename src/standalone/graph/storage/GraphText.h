@@ -40,7 +40,7 @@ ORV_EXPORT std::string writeSelection(const CompoundObject& level,
 struct IncomingWire {
   PortRef target;
 
-  /// The full path that the source had.
+  /// The full path that the source had; empty when that is in another graph.
   std::string source;
 };
 

@@ -3,7 +3,10 @@
 #include <algorithm>
 
 #include "standalone/graph/model/AnnotationObject.h"
+#include "standalone/graph/model/ContainerObject.h"
+#include "standalone/graph/model/ContainerTable.h"
 #include "standalone/graph/storage/LineWords.h"
+#include "standalone/graph/storage/SelectionSeal.h"
 #include "standalone/graph/storage/StoredFormat.h"
 
 namespace orvlib {
@@ -27,6 +30,12 @@ void addEnd(std::string& line, const PortObject& port) {
   if (!port.isInner()) line += port.node()->name();
   line += '.';
   line += port.fullName();
+}
+
+/// Empty when it is in none that others find.
+std::string uuidOf(const CompoundObject& level) {
+  const ContainerObject* graph = level.node()->container();
+  return graph ? ContainerTable::uuidOf(*graph) : std::string();
 }
 
 }  // namespace
@@ -250,7 +259,10 @@ std::string GraphWriter::selection(const CompoundObject& level, std::span<NodeOb
     for (const PortObject* port : node->inputList().items()) writer.writeIncoming(*port);
   }
   writer.closeBlock();
-  return writer.withHead(kSelectionFormat, {});
+  std::string lines(kFromStatement);
+  addWord(lines, uuidOf(level));
+  ((lines += '\n') += writer.used_.text()) += writer.body_;
+  return sealOf(lines) + lines;
 }
 
 }  // namespace orvlib

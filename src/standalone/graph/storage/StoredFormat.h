@@ -9,6 +9,7 @@ namespace orvlib {
 // The words by which the three kinds of stored text are told apart.
 
 constexpr std::string_view kFormatVersion = "1";
+constexpr std::string_view kSelectionVersion = "2";
 
 constexpr std::string_view kGraphFormat = "vesk-graph";
 constexpr std::string_view kContentFormat = "vesk-compound";
@@ -18,6 +19,9 @@ constexpr std::string_view kSelectionFormat = "vesk-nodes";
 constexpr std::string_view kGraphBlock = "graph";
 constexpr std::string_view kContentBlock = "content";
 constexpr std::string_view kSelectionBlock = "nodes";
+
+/// States which graph a selection is from.
+constexpr std::string_view kFromStatement = "from";
 
 /// How many parameters of a watch point are always stated, by their values alone: record and limit.
 /// Those after them stand by name and value, when they are not as in a new one.

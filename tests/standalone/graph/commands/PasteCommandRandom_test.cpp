@@ -9,6 +9,7 @@
 #include "standalone/graph/clipboard/Clipboard.h"
 #include "standalone/graph/library/RuntimeRegistry.h"
 #include "standalone/graph/storage/GraphText.h"
+#include "standalone/graph/storage/SelectionSeal.h"
 #include "tests/standalone/graph/commands/GraphInvariants.h"
 #include "tests/standalone/graph/commands/RandomSubgraph.h"
 
@@ -262,6 +263,15 @@ class DamagedClipboard : public PasteCommandRandom {
     return Clipboard::text();
   }
 
+  static std::string linesOf(const std::string& text) { return text.substr(text.find('\n') + 1); }
+
+  /// Whether it is refused as it is, and how it goes when nobody can see that it was damaged.
+  bool pasteDamaged(const std::string& lines, const std::string& whole) {
+    const std::string seal = whole.substr(0, whole.size() - linesOf(whole).size());
+    EXPECT_EQ(paste(seal + lines), lines == linesOf(whole));
+    return paste(sealOf(lines) + lines);
+  }
+
   RandomSubgraph target_{7};
 };
 
@@ -274,36 +284,43 @@ TEST_F(DamagedClipboard, CutOffAnywherePastesNothing) {
       ASSERT_FALSE(paste(whole.substr(0, length))) << length;
       ASSERT_FALSE(HasFailure()) << length;
     }
+    const std::string lines = linesOf(whole);
+    for (std::size_t length = 0; length < lines.size(); ++length) {
+      const std::string cut = lines.substr(0, length);
+      ASSERT_FALSE(paste(sealOf(cut) + cut)) << length;
+      ASSERT_FALSE(HasFailure()) << length;
+    }
     EXPECT_TRUE(paste(whole));
   }
   EXPECT_GT(bytes, 20000u);
 }
 
-TEST_F(DamagedClipboard, WithAByteChangedPastesNothingOrAGraph) {
+TEST_F(DamagedClipboard, WithAByteChangedPastesNothingAndUnseenNothingOrAGraph) {
   std::mt19937 random(1);
   unsigned refused = 0;
   unsigned done = 0;
   for (unsigned seed = 0; seed < 40; ++seed) {
     const std::string whole = copied(seed);
     for (int i = 0; i < 50; ++i) {
-      std::string text = whole;
-      text[random() % text.size()] ^= static_cast<char>(1u << (random() % 8));
-      ++(paste(text) ? done : refused);
-      ASSERT_FALSE(HasFailure()) << text;
+      std::string lines = linesOf(whole);
+      lines[random() % lines.size()] ^= static_cast<char>(1u << (random() % 8));
+      ++(pasteDamaged(lines, whole) ? done : refused);
+      ASSERT_FALSE(HasFailure()) << lines;
     }
   }
   EXPECT_GT(refused, 100u);
   EXPECT_GT(done, 100u);
 }
 
-TEST_F(DamagedClipboard, WithLinesThatAreGoneOrExchangedPastesNothingOrAGraph) {
+TEST_F(DamagedClipboard, WithLinesGoneOrExchangedPastesNothingAndUnseenNothingOrAGraph) {
   std::mt19937 random(2);
   for (unsigned seed = 0; seed < 40; ++seed) {
     std::vector<std::string> lines;
     const std::string whole = copied(seed);
-    for (std::size_t at = 0, end; at < whole.size(); at = end) {
-      end = whole.find('\n', at) + 1;
-      lines.push_back(whole.substr(at, end - at));
+    const std::string all = linesOf(whole);
+    for (std::size_t at = 0, end; at < all.size(); at = end) {
+      end = all.find('\n', at) + 1;
+      lines.push_back(all.substr(at, end - at));
     }
     for (int i = 0; i < 50; ++i) {
       std::vector<std::string> damaged = lines;
@@ -311,7 +328,7 @@ TEST_F(DamagedClipboard, WithLinesThatAreGoneOrExchangedPastesNothingOrAGraph) {
       if (random() % 2) damaged[random() % lines.size()].clear();
       std::string text;
       for (const std::string& line : damaged) text += line;
-      paste(text);
+      pasteDamaged(text, whole);
       ASSERT_FALSE(HasFailure()) << text;
     }
   }

@@ -1,6 +1,7 @@
 #include "platform/ORV_1_0/PasteCommand.h"
 
 #include "platform/ORV_1_0/CopyCommand.h"
+#include "platform/ORV_1_0/NodeCommand.h"
 #include "platform/ORV_1_0/WatchPointCommand.h"
 #include "standalone/graph/clipboard/Clipboard.h"
 #include "tests/standalone/graph/commands/CommandFixture.h"
@@ -18,6 +19,7 @@ class PasteCommandTest : public CommandFixture {
     connect("/first.result", "/a.a");
     connect("/a.result", "/b.a");
     Clipboard::setText("");
+    graph_.publishUuid("here");
     command_.setParentCompound(&graph_, "/");
   }
 
@@ -25,6 +27,17 @@ class PasteCommandTest : public CommandFixture {
     ORV_v1::CopyCommand command;
     ASSERT_TRUE(command.setParentCompound(&graph_, "/"));
     for (const char* name : names) ASSERT_TRUE(command.addSourceNode(name));
+    ASSERT_TRUE(command.doit());
+  }
+
+  bool disconnect(std::string_view source, std::string_view target) {
+    return edits_.run(Disconnect{{PortRef(port(source)), PortRef(port(target))}});
+  }
+
+  /// Takes out a node and its connections.
+  void removeNode(const char* name) {
+    ORV_v1::NodeCommand command;
+    ASSERT_TRUE(command.removeNode(compound("/"), name));
     ASSERT_TRUE(command.doit());
   }
 
@@ -71,6 +84,56 @@ TEST_F(PasteCommandTest, ConnectionsFromOutsideStayOutInAnotherLevel) {
   command_.duplicateSourceInputConnections(true);
   ASSERT_TRUE(command_.doit());
   EXPECT_FALSE(port("/group/a.a")->hasPeers());
+}
+
+/// A copy that is pasted may be given the name of the source that has gone.
+TEST_F(PasteCommandTest, ASourceThatHasGoneIsNotTakenForACopyOfTheNodeItself) {
+  add(top(), "core::math::add", "a1");
+  ASSERT_TRUE(disconnect("/first.result", "/a.a"));
+  connect("/a1.result", "/a.a");
+  copy({"a"});
+  removeNode("a1");
+  const std::string before = text();
+  command_.duplicateSourceInputConnections(true);
+  ASSERT_TRUE(command_.doit());
+  EXPECT_FALSE(port("/a1.a")->hasPeers());
+  expectReversible(command_, before);
+}
+
+TEST_F(PasteCommandTest, ASourceThatHasGoneIsNotTakenForAnotherCopy) {
+  add(top(), "core::math::add", "a1");
+  ASSERT_TRUE(disconnect("/a.result", "/b.a"));
+  connect("/a1.result", "/b.a");
+  copy({"a", "b"});
+  removeNode("a1");
+  command_.duplicateSourceInputConnections(true);
+  ASSERT_TRUE(command_.doit());
+  EXPECT_TRUE(wired("/first.result", "/a1.a"));
+  EXPECT_FALSE(port("/b1.a")->hasPeers());
+}
+
+TEST_F(PasteCommandTest, ConnectionsFromOutsideStayOutInAnotherGraph) {
+  ContainerObject other("standard");
+  const auto definition = other.core().findDefinition("core::math::add");
+  insert(*other.top().compound(), NodeFactory(other.core()).makePlain(*definition, "first"));
+  copy({"a"});
+  for (const std::string uuid : {"", "there"}) {
+    if (!uuid.empty()) other.publishUuid(uuid);
+    ORV_v1::PasteCommand command;
+    ASSERT_TRUE(command.setParentCompound(&other, "/"));
+    command.duplicateSourceInputConnections(true);
+    ASSERT_TRUE(command.doit());
+    EXPECT_FALSE(other.findPort("/a.a", 2, 1)->hasPeers()) << uuid;
+    ASSERT_TRUE(command.undo());
+  }
+}
+
+TEST_F(PasteCommandTest, ConnectionsFromOutsideStayOutWhereNobodyKnowsTheGraph) {
+  graph_.withdrawUuid();
+  copy({"a"});
+  command_.duplicateSourceInputConnections(true);
+  ASSERT_TRUE(command_.doit());
+  EXPECT_FALSE(port("/a1.a")->hasPeers());
 }
 
 TEST_F(PasteCommandTest, PastesAnnotations) {

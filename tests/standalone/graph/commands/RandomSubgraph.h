@@ -14,6 +14,7 @@ namespace orvlib {
 class RandomSubgraph {
  public:
   explicit RandomSubgraph(unsigned seed) : random_(seed) {
+    graph.publishUuid("random-" + std::to_string(seed));
     CompoundObject& top = *graph.top().compound();
     RandomCommands commands(graph, seed);
     for (int i = 0; i < 150; ++i) commands.next();

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "standalone/graph/storage/SelectionSeal.h"
 #include "tests/standalone/graph/storage/StorageFixture.h"
 
 namespace orvlib {
@@ -92,6 +93,11 @@ class SelectionText : public StorageFixture {
     return writeSelection(*graph_.findCompound(level), nodes, annotations);
   }
 
+  static std::string sealed(const std::string& lines) {
+    const std::string all = "from \"\"\n" + lines;
+    return sealOf(all) + all;
+  }
+
   static std::string blockOf(const std::string& text) { return text.substr(text.find("nodes\n")); }
 };
 
@@ -105,8 +111,8 @@ TEST_F(SelectionText, HasNodesAndAnnotationsInTheOrderOfTheLevel) {
 
 TEST_F(SelectionText, StatesWhatItsNodesUse) {
   load(withBlock("  node a core::math::add\n  node b core::vector::vector3::add\n"));
-  EXPECT_THAT(write({"/a"}), testing::StartsWith("vesk-nodes 1\ntype float float\ndefinition "
-                                                 "core::math::add\nin a float\n"));
+  EXPECT_THAT(write({"/a"}), HasSubstr("\nfrom \"\"\ntype float float\ndefinition "
+                                       "core::math::add\nin a float\n"));
 }
 
 TEST_F(SelectionText, HasConnectionsWithinAndIntoIt) {
@@ -149,7 +155,26 @@ TEST_F(SelectionText, LeavesOutWhatInputOutputNodesShow) {
             "    io out m\n      show o\n  end\nend\n");
 }
 
+TEST_F(SelectionText, SaysWhichGraphItIsFrom) {
+  load(withBlock("  node a core::math::add\n"));
+  graph_.publishUuid("1-2-3");
+  EXPECT_THAT(write({"/a"}), HasSubstr("\nfrom 1-2-3\ntype float float\n"));
+}
+
+TEST_F(SelectionText, HasNoSourcesInAnotherGraph) {
+  load(
+      withBlock("  node a core::math::add\n  node b core::math::add\n"
+                "  wire a.result b.a\n"));
+  graph_.publishUuid("1-2-3");
+  ContainerObject other("standard");
+  Selection selection;
+  expectNoError(readSelection(write({"/b"}), other.core(), selection));
+  ASSERT_EQ(selection.incoming.size(), 1u);
+  EXPECT_EQ(selection.incoming[0].source, "");
+}
+
 TEST_F(SelectionText, IsReadIntoACarrier) {
+  graph_.publishUuid("1-2-3");
   load(
       withBlock("  node a core::math::add\n  compound c\n    port in many array<float>\n"
                 "    flags many fan-in\n    member many item\n  end\n"
@@ -172,22 +197,22 @@ TEST_F(SelectionText, OfNothingIsEmpty) {
 
 TEST_F(SelectionText, ThatIsRefusedLeavesTheSelectionAsItWas) {
   Selection selection;
-  expectNoError(readSelection("vesk-nodes 1\nnodes\n  note n\nend\n", graph_.core(), selection));
+  expectNoError(readSelection(sealed("nodes\n  note n\nend\n"), graph_.core(), selection));
   const NodeRef carrier = selection.carrier;
-  const auto error = readSelection("vesk-nodes 1\nnodes\n  note n\n  state frozen\nend\n",
-                                   graph_.core(), selection);
+  const auto error =
+      readSelection(sealed("nodes\n  note n\n  state frozen\nend\n"), graph_.core(), selection);
   ASSERT_TRUE(error);
-  EXPECT_EQ(error->line, 4u);
+  EXPECT_EQ(error->line, 5u);
   EXPECT_EQ(selection.carrier.get(), carrier.get());
 }
 
 TEST_F(SelectionText, RefusesIncomingConnectionsOfNoInput) {
   const std::string head =
-      "vesk-nodes 1\ntype float float\ndefinition d\nin a float\n"
+      "type float float\ndefinition d\nin a float\n"
       "out b float\nnodes\n  node n d\n";
   const auto reason = [&](const char* line) {
     Selection selection;
-    const auto error = readSelection(head + line + "end\n", graph_.core(), selection);
+    const auto error = readSelection(sealed(head + line + "end\n"), graph_.core(), selection);
     return error ? error->reason : "";
   };
   EXPECT_EQ(reason("  incoming n.b /x.y\n"), "the port 'n.b' gives values");
