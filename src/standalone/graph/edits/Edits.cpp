@@ -89,8 +89,7 @@ bool RenameAnnotation::apply() {
 bool PortPlace::put() {
   if (above != nullptr) {
     PortListObject* members = above->isFanInPort() ? above->childList() : nullptr;
-    if (!members || !above->node() || above->hasPeers() || members->find(port->name()))
-      return false;
+    if (!members || !above->node() || members->find(port->name())) return false;
     Mutator::insertMember(*above, *port, index);
     return true;
   }
@@ -105,6 +104,11 @@ bool PortPlace::take() {
   if (above == nullptr && (port->ioNode() || port->statePartner())) return false;
   index = above != nullptr ? Mutator::removeMember(*port) : Mutator::removePort(*port);
   return true;
+}
+
+bool InsertPort::apply() {
+  if (above != nullptr && above->hasPeers()) return false;
+  return put();
 }
 
 bool RenamePort::apply() {

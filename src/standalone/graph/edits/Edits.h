@@ -87,8 +87,10 @@ struct PortPlace {
   bool put();
   bool take();
 };
+/// A fan-in port that is connected as a whole takes no new member. One that it had before comes
+/// back all the same.
 struct InsertPort : PortPlace {
-  bool apply() { return put(); }
+  bool apply();
   bool revert() { return take(); }
 };
 struct RemovePort : PortPlace {
