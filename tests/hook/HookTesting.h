@@ -151,6 +151,15 @@ class HookTest : public testing::Test {
     addProbe(host, command, std::move(body), syntax);
   }
 
+  /// Lets a command fail that gives `failureResult` all the same.
+  void replaceByFailure(const std::string& command) {
+    replace(command, {.doIt = [this](KPxCommand& probe, auto&) -> KStatus {
+              probe.setResult(failureResult);
+              return StatusFailure;
+            }});
+  }
+  unsigned int failureResult = 1;
+
   /// Runs `orvCompound "g" PATH FLAGS`, which must work and leaves no step.
   void build(const std::string& path, const std::string& flags) {
     host.run("orvCompound g \"" + path + "\" " + flags);

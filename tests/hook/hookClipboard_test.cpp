@@ -100,6 +100,18 @@ TEST_F(HookClipboard, CutSelectionCopiesThenRemovesOneByOne) {
   EXPECT_THAT(nodes("/"), ElementsAre("b", "list", "vec", "group", "a", "c"));
 }
 
+/// The lists of a level get shorter with everything that is removed.
+TEST_F(HookClipboard, CutSelectionTakesTheListsOfALevel) {
+  const CompoundHandle level = top();
+  EXPECT_TRUE(hook().cutSelection({level, &level->getChildNodes(), &level->getAnnotations()}));
+  EXPECT_THAT(nodes("/"), IsEmpty());
+  EXPECT_THAT(annotations("/"), IsEmpty());
+
+  EXPECT_TRUE(hook().pasteClipboard({top(), false}));
+  EXPECT_THAT(nodes("/"), ElementsAre("a", "b", "c", "list", "vec", "group"));
+  EXPECT_THAT(annotations("/"), ElementsAre("frame", "note"));
+}
+
 TEST_F(HookClipboard, CutSelectionThatCannotCopyRemovesNothing) {
   replace("orvCopy", {.doIt = [](auto&, auto&) -> KStatus { return StatusFailure; }});
   const Selection selected = select({"/a"}, {"note"});
@@ -109,6 +121,28 @@ TEST_F(HookClipboard, CutSelectionThatCannotCopyRemovesNothing) {
             failed(R"(orvCopy "g" "/" -sourceNode "a" -sourceAnnotation "note")"));
   EXPECT_FALSE(done);
   EXPECT_EQ(stored(), before);
+}
+
+TEST_F(HookClipboard, ACopyThatFailedAndGaveOneIsCutAllTheSame) {
+  replaceByFailure("orvCopy");
+  EXPECT_TRUE(copy({"/a"}));
+  const Selection selected = select({"/a"}, {"note"});
+  EXPECT_TRUE(hook().cutSelection(selected.in(top())));
+  EXPECT_THAT(nodes("/"), ElementsAre("b", "c", "list", "vec", "group"));
+  EXPECT_THAT(annotations("/"), ElementsAre("frame"));
+}
+
+TEST_F(HookClipboard, ACopyThatFailedAndGaveAnotherNumberIsFalse) {
+  replaceByFailure("orvCopy");
+  failureResult = 2;
+  EXPECT_FALSE(copy({"/a"}));
+}
+
+TEST_F(HookClipboard, APasteThatFailedIsFalseUnlessItGaveOne) {
+  replaceByFailure("orvPaste");
+  EXPECT_TRUE(hook().pasteClipboard({top(), false}));
+  failureResult = 2;
+  EXPECT_FALSE(hook().pasteClipboard({top(), false}));
 }
 
 TEST_F(HookClipboard, CutSelectionIsTrueAlsoWhenARemovalFails) {
