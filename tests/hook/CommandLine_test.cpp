@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "standalone/host/language/Tokenizer.h"
+#include "tests/support/Latin1Locale.h"
 
 namespace {
 
@@ -39,6 +40,13 @@ TEST(CommandLine, KeepsEmptyTexts) {
 TEST(CommandLine, ReadsNarrowTextAsUtf8) {
   CommandLine line("word");
   EXPECT_EQ(textOf(line.text("Größe 数据")), "word \"Größe 数据\"");
+}
+
+TEST(CommandLine, IsUtf8WhateverTheLocale) {
+  const hosttest::Latin1Locale locale;
+  CommandLine line("word");
+  line.text(QString("Größe 数据")).text("Größe 数据").texts({"ö", "数"});
+  EXPECT_EQ(textOf(line), "word \"Größe 数据\" \"Größe 数据\" \"{ö,数}\"");
 }
 
 TEST(CommandLine, JoinsListsIntoOneText) {

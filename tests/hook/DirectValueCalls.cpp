@@ -1,27 +1,20 @@
 #include "tests/hook/DirectValueCalls.h"
 
-#include <dlfcn.h>
-
 #include "platform/ORV_1_0/ModifyCompoundPortCommand.h"
 #include "platform/ORV_1_0/ModifyNodePortCommand.h"
+#include "tests/hook/LibraryOperation.h"
 
 namespace {
 
-/// The library's own definition of the operation of that symbol.
-template <class Result, class... Arguments>
-auto library(const char* symbol) {
-  void* found = dlsym(RTLD_NEXT, symbol);
-  if (!found) ADD_FAILURE() << "the graph library has no " << symbol;
-  return reinterpret_cast<Result (*)(Arguments...)>(found);
+void note(const std::string& call) {
+  if (DirectValueCalls::current) DirectValueCalls::current->note(call);
 }
 
 void note(const std::string& target, const char* name, const ORV_v1::StringArray& values,
           bool interactive) {
-  if (!DirectValueCalls::current) return;
   std::string list;
   for (unsigned int i = 0; i < values.size(); ++i) list += std::string(i ? "," : "") + values[i];
-  DirectValueCalls::current->note(target + " " + name + " {" + list + "}" +
-                                  (interactive ? " interactive" : ""));
+  note(target + " " + name + " {" + list + "}" + (interactive ? " interactive" : ""));
 }
 
 }  // namespace
@@ -41,8 +34,8 @@ namespace ORV_v1 {
 bool ModifyNodePortCommand::setPortValues(const AddRefWrapper<Node>& node, const char* name,
                                           const StringArray& values, bool interactive) {
   note(std::string("node ") + node->getFullPathName().getName(), name, values, interactive);
-  static const auto own = library<bool, ModifyNodePortCommand*, const AddRefWrapper<Node>&,
-                                  const char*, const StringArray&, bool>(
+  static const auto own = libraryOperation<bool, ModifyNodePortCommand*, const AddRefWrapper<Node>&,
+                                           const char*, const StringArray&, bool>(
       "_ZN6ORV_v121ModifyNodePortCommand13setPortValuesERKNS_13AddRefWrapperINS_4NodeEEEPKcRKNS_"
       "11StringArrayEb");
   return own(this, node, name, values, interactive);
@@ -52,9 +45,23 @@ bool ModifyCompoundPortCommand::setPortValues(const char* name, const StringArra
                                               bool interactive) {
   note("compound", name, values, interactive);
   static const auto own =
-      library<bool, ModifyCompoundPortCommand*, const char*, const StringArray&, bool>(
+      libraryOperation<bool, ModifyCompoundPortCommand*, const char*, const StringArray&, bool>(
           "_ZN6ORV_v125ModifyCompoundPortCommand13setPortValuesEPKcRKNS_11StringArrayEb");
   return own(this, name, values, interactive);
+}
+
+bool ModifyNodePortCommand::doit() {
+  note("node doit");
+  static const auto own =
+      libraryOperation<bool, ModifyNodePortCommand*>("_ZN6ORV_v121ModifyNodePortCommand4doitEv");
+  return own(this);
+}
+
+bool ModifyCompoundPortCommand::doit() {
+  note("compound doit");
+  static const auto own = libraryOperation<bool, ModifyCompoundPortCommand*>(
+      "_ZN6ORV_v125ModifyCompoundPortCommand4doitEv");
+  return own(this);
 }
 
 }  // namespace ORV_v1

@@ -2,6 +2,23 @@
 
 #include "platform/ORV_1_0/Compound.h"
 #include "tests/hook/HookTesting.h"
+#include "tests/hook/LibraryOperation.h"
+#include "tests/support/Latin1Locale.h"
+
+namespace {
+
+/// The names by which nodes were looked up.
+hosttest::Texts lookedUp;
+
+}  // namespace
+
+/// Comes ahead of the library's own: no node has a name that would tell how it was written.
+ORV_v1::AddRefWrapper<ORV_v1::Node> ORV_v1::NodeList::operator[](const char* name) const {
+  lookedUp.emplace_back(name ? name : "null");
+  static const auto own = libraryOperation<AddRefWrapper<Node>, const NodeList*, const char*>(
+      "_ZNK6ORV_v18NodeListixEPKc");
+  return own(this, name);
+}
 
 namespace {
 
@@ -94,6 +111,16 @@ TEST_F(Execution, AResultThatIsNoTextGivesNoNode) {
 TEST_F(Execution, AnUnknownNameGivesNoNode) {
   for (const std::string name : {"nobody", "", "/a", "d", "B"}) {
     EXPECT_EQ(nodeOf(StatusSuccess, name), "null") << name;
+  }
+}
+
+TEST_F(Execution, ANodeIsLookedUpByUtf8WhateverTheLocale) {
+  const hosttest::Latin1Locale locale;
+  for (const ResultValue& result :
+       {ResultValue(std::string("Größe 数据")), ResultValue(Texts{"Größe 数据", "b"})}) {
+    lookedUp.clear();
+    EXPECT_EQ(nodeOf(StatusSuccess, result), "null");
+    EXPECT_THAT(lookedUp, testing::ElementsAre("Größe 数据"));
   }
 }
 

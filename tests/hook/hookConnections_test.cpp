@@ -90,10 +90,7 @@ TEST_F(HookConnections, WhatCannotBeDoneIsFalse) {
 }
 
 TEST_F(HookConnections, AFailedLineThatGaveOneIsTrue) {
-  replace("orvConnect", {.doIt = [](KPxCommand& command, auto&) -> KStatus {
-            command.setResult(1u);
-            return StatusFailure;
-          }});
+  replaceByFailure("orvConnect");
   EXPECT_TRUE(hook().connectNodes(*listOf({"/a", "/b"})));
   EXPECT_TRUE(hook().connectPorts(port("/a.result"), port("/b.value"), false));
   EXPECT_TRUE(hook().disconnectPorts(port("/a.result"), port("/b.value")));

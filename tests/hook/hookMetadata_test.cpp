@@ -2,6 +2,7 @@
 
 #include "platform/ORV_1_0/WatchPoint.h"
 #include "tests/hook/HookTesting.h"
+#include "tests/support/Latin1Locale.h"
 
 namespace {
 
@@ -94,6 +95,15 @@ TEST_F(HookMetadata, SetMetaDataFromStringKeepsAwkwardTexts) {
   EXPECT_THAT(ofNode("/a", "key"), ElementsAre("a \"b\" \\ {c},\nd=\t数据🙂"));
 }
 
+TEST_F(HookMetadata, TextsAreUtf8WhateverTheLocale) {
+  const hosttest::Latin1Locale locale;
+  EXPECT_EQ(editTraceOf([&] { hook().setMetaData(0, node("/a"), "Größe", "数据🙂"); }),
+            edit(R"(orvNode "g" "/a" -setMetaData "Größe" "数据🙂")"));
+  hook().editAnnotation(4, top(), "note", "text", "Größe 数据🙂");
+  EXPECT_STREQ(graph.findAnnotationFromPath("/note")->getAnnotationMetaDataValue("text").toChar(),
+               "Größe 数据🙂");
+}
+
 // State flags.
 
 TEST_F(HookMetadata, SetStateFlagIsALineOfTheNodeWhateverItIs) {
@@ -117,10 +127,7 @@ TEST_F(HookMetadata, SetStateFlagEscapesItsLetter) {
 }
 
 TEST_F(HookMetadata, SetStateFlagTellsTheStatusAlone) {
-  replace("orvNode", {.doIt = [](KPxCommand& command, auto&) -> KStatus {
-            command.setResult(1u);
-            return StatusFailure;
-          }});
+  replaceByFailure("orvNode");
   bool done = true;
   EXPECT_EQ(traceOf([&] { done = hook().setStateFlag(node("/a"), 'f', true); }),
             failed(R"(orvNode "g" "/a" -setStateFlag "f" true)"));

@@ -1,13 +1,11 @@
 // Nodes and compounds.
 
-#include "standalone/graph/library/RuntimeRegistry.h"
 #include "tests/hook/HookTesting.h"
 
 namespace {
 
 using ORV_v1::NodeFlags;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 class HookNodes : public HookTest {
@@ -100,14 +98,11 @@ TEST_F(HookNodes, RemoveNodeWithoutALevelAboveRunsNoLine) {
 
 TEST_F(HookNodes, SetIsReferencedTellsWhichWay) {
   for (const bool referenced : {true, false}) {
-    const std::string word = referenced ? "true" : "false";
-    const Trace trace = traceOf([&] { hook().setIsReferenced(compound("/group"), referenced); });
-    const std::string line = R"(orvCompound "g" "/group" -setIsReferenced )" + word;
-    EXPECT_EQ(trace.journal.back(), line);
-    EXPECT_THAT(trace.echoes, ElementsAre(line));
+    EXPECT_EQ(traceOf([&] { hook().setIsReferenced(compound("/group"), referenced); }),
+              edit(std::string(R"(orvCompound "g" "/group" -setIsReferenced )") +
+                   (referenced ? "true" : "false")));
     EXPECT_FALSE(compound("/group")->isReferenced()) << "it comes from no published compound";
   }
-  host.takeMessages();
 }
 
 TEST_F(HookNodes, CreateCompoundMovesTheSelectionIn) {
@@ -197,79 +192,6 @@ TEST_F(HookNodes, AFailureIsTheHostsToTell) {
   hook().removeNode(node("/group/d"));
   EXPECT_EQ(stored(), locked);
   EXPECT_THAT(host.takeMessages(), testing::SizeIs(testing::Ge(2u)));
-}
-
-/// A graph with a folder to publish to.
-class HookPublishing : public HookTest {
- protected:
-  HookPublishing() {
-    runtimes_.setPublishedFolder(files_.path("published"));
-    EXPECT_THAT(runtimes_.load(VESK_SOURCE_DIR "/library"), IsEmpty());
-    runtimes_.makeCurrent();
-  }
-
-  std::string published(const std::string& name) const {
-    return files_.read("published/standard/" + name + ".yaml");
-  }
-
-  bool publishGroup(const char* description, bool replaces) {
-    return hook().publish(compound("/group"), "soft", nullptr, description, replaces);
-  }
-
-  hosttest::TemporaryFiles files_;
-
- private:
-  orvlib::RuntimeRegistry runtimes_;
-};
-
-TEST_F(HookPublishing, PublishTellsWhetherItDid) {
-  EXPECT_EQ(traceOf([&] { EXPECT_TRUE(publishGroup("First.", false)); }).journal,
-            Texts{R"(orvCompound "g" "/group" -publish "soft" "" "First." false)"});
-  EXPECT_THAT(published("core.soft"), HasSubstr("First."));
-}
-
-TEST_F(HookPublishing, PublishReplacesOnRequest) {
-  EXPECT_TRUE(publishGroup("First.", false));
-  EXPECT_EQ(traceOf([&] { EXPECT_TRUE(publishGroup("Second.", true)); }).journal,
-            Texts{R"(orvCompound "g" "/group" -publish "soft" "" "Second." true)"});
-  EXPECT_THAT(published("core.soft"), HasSubstr("Second."));
-}
-
-TEST_F(HookPublishing, PublishKeepsTheOrderOfItsTexts) {
-  EXPECT_TRUE(hook().publish(compound("/group"), "mild", "core::tools", "Text.", false));
-  EXPECT_THAT(published("core.tools.mild"), HasSubstr("compound: core::tools::mild\n"));
-  EXPECT_THAT(published("core.tools.mild"), HasSubstr("description: \"Text.\"\n"));
-}
-
-TEST_F(HookPublishing, PublishGraphPassesOnFourTexts) {
-  const std::string file = files_.path("whole.yaml");
-  const Trace trace = traceOf([&] {
-    EXPECT_TRUE(hook().publishGraph(top(), "whole", "core::tools", "All.", file.c_str()));
-  });
-  const std::string line =
-      R"(orvCompound "g" "/" -publishGraph "whole" "core::tools" "All." ")" + file + "\"";
-  EXPECT_EQ(trace.journal, Texts{line});
-  EXPECT_THAT(trace.echoes, ElementsAre(line));
-  EXPECT_THAT(files_.read("whole.yaml"), HasSubstr("compound: core::tools::whole\n"));
-}
-
-TEST_F(HookPublishing, SetIsReferencedFollowsThePublishedCompound) {
-  EXPECT_TRUE(publishGroup("", false));
-  hook().setIsReferenced(compound("/group"), true);
-  EXPECT_TRUE(compound("/group")->isReferenced());
-  hook().setIsReferenced(compound("/group"), false);
-  EXPECT_FALSE(compound("/group")->isReferenced());
-}
-
-TEST_F(HookPublishing, ResetToFactoryNamesTheCompoundAndItsOwnLevel) {
-  // The command looks for the name below the level, so only a namesake inside is found.
-  build("/group", "-create group");
-  EXPECT_TRUE(hook().publish(compound("/group/group"), "soft", "", "", false));
-  build("/group/group", "-addNode core::math::add");
-  ASSERT_TRUE(compound("/group/group")->canResetToFactory());
-  const Trace trace = traceOf([&] { hook().resetToFactory(compound("/group")); });
-  EXPECT_EQ(trace, edit(R"(orvCompound -resetToFactory "group" "g" "/group")"));
-  EXPECT_THAT(nodes("/group/group"), IsEmpty());
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ class HookPortsCreate : public HookTest {
   /// Lets a line of `orvNode` add that many inputs to "/a" and end with this status.
   void replaceByGrowth(unsigned int inputs, KStatusCode status) {
     replace("orvNode", {.doIt = [this, inputs, status](auto&, auto&) -> KStatus {
-              for (unsigned int i = 0; i < inputs; ++i) grow();
+              for (unsigned int i = 0; i < inputs; ++i) grow("/a", "grown");
               return status;
             }});
   }
@@ -42,10 +42,10 @@ class HookPortsCreate : public HookTest {
     return hook().createNodePort(node("/a"), false, hints("p", "float"), made);
   }
 
- private:
-  void grow() {
+  /// Past the host.
+  void grow(const std::string& path, const char* name) {
     ORV_v1::ModifyNodePortCommand command;
-    command.createPort(node("/a"), ORV_v1::PortIOType::kInput, "grown", "float", {});
+    command.createPort(node(path), ORV_v1::PortIOType::kInput, name, "float", {});
     EXPECT_TRUE(command.doit());
   }
 };
@@ -97,6 +97,29 @@ TEST_F(HookPortsCreate, AmongTheMembersOfAFanInPort) {
   EXPECT_TRUE(done);
   EXPECT_EQ(made.get(), port("/list.elements.one").get());
   EXPECT_TRUE(made);
+}
+
+/// The members are watched, whatever the direction.
+TEST_F(HookPortsCreate, AnOutputIsNotFoundAmongTheMembersOfAFanInPort) {
+  PortHandle made = port("/list.elements");
+  bool done = true;
+  EXPECT_EQ(editTraceOf([&] {
+              done = hook().createNodePort(node("/list"), true, hints("more", "float"), made);
+            }),
+            edit(R"(orvNode "g" "/list" -createOutputPort "more" "float")"));
+  EXPECT_FALSE(done);
+  EXPECT_FALSE(made);
+  EXPECT_TRUE(port("/list.more"));
+}
+
+TEST_F(HookPortsCreate, AMemberIsFoundAlsoByALineForAnOutput) {
+  replace("orvNode", {.doIt = [this](auto&, auto&) -> KStatus {
+            grow("/list", "elements.one");
+            return StatusSuccess;
+          }});
+  PortHandle made = port("/list.elements");
+  EXPECT_TRUE(hook().createNodePort(node("/list"), true, hints("p", "float"), made));
+  EXPECT_EQ(made.get(), port("/list.elements.one").get());
 }
 
 TEST_F(HookPortsCreate, BesideAPortThatIsNoFanInPort) {

@@ -1,8 +1,6 @@
 // Ports: naming, removing, hiding and moving them, their type, flags and values.
 
-#include "standalone/graph/api/GraphAccess.h"
 #include "standalone/graph/model/PortObject.h"
-#include "tests/hook/DirectValueCalls.h"
 #include "tests/hook/HookTesting.h"
 
 namespace {
@@ -10,7 +8,6 @@ namespace {
 using ORV_v1::PortFlags;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 using HookPorts = HookTest;
 
@@ -43,6 +40,14 @@ TEST_F(HookPorts, DeletePortOfAMember) {
   EXPECT_EQ(editTraceOf([&] { hook().deletePort(port("/list.elements.one")); }),
             edit(R"(orvNode "g" "/list" -deletePort "elements.one")"));
   EXPECT_THAT(namesOf(*port("/list.elements")->children()), IsEmpty());
+}
+
+TEST_F(HookPorts, DeletePortOfAMemberBesideAConnectionOfTheWhole) {
+  build("/", "-addNode core::array::build");
+  host.run("orvNode g /list -createInputPort elements.one float");
+  host.run("orvConnect g /build.result /list.elements");
+  EXPECT_EQ(editTraceOf([&] { hook().deletePort(port("/list.elements.one")); }),
+            edit(R"(orvNode "g" "/list" -deletePort "elements.one")"));
 }
 
 TEST_F(HookPorts, DeletePortOfAMemberIsANodesAlsoOnACompound) {
@@ -126,10 +131,7 @@ TEST_F(HookPorts, APortFlagLineTellsDirectionAndFace) {
 }
 
 TEST_F(HookPorts, APortFlagLineThatFailsIsFalse) {
-  replace("orvPort", {.doIt = [](KPxCommand& command, auto&) -> KStatus {
-            command.setResult(1u);
-            return StatusFailure;
-          }});
+  replaceByFailure("orvPort");
   bool done = true;
   EXPECT_EQ(traceOf([&] { done = hook().setPortFlag(port("/a.value"), 8); }),
             failed(R"(orvPort "g" "/a.value" 0 1 -set 8)"));
@@ -151,6 +153,35 @@ TEST_F(HookPorts, APortFlagWithoutAGraphRunsNoLine) {
   done = true;
   EXPECT_EQ(traceOf([&] { done = hook().clearPortFlag(gone, 8); }), Trace{});
   EXPECT_FALSE(done);
+}
+
+// Components: some lines name them alone, some by the path below the node.
+
+TEST_F(HookPorts, LinesOfACompoundNameAComponentAlone) {
+  build("/group", "-createInputPort tint vector3");
+  const PortHandle component = port("/group.tint.y");
+  const auto lineOf = [this](const std::function<void()>& call) {
+    const std::string line = traceOf(call).journal.back();
+    host.takeMessages();
+    return line;
+  };
+  const std::string start = R"(orvCompound "g" "/group" )";
+  EXPECT_EQ(lineOf([&] { hook().renamePort(component, "new"); }),
+            start + R"(-renamePort "y" "new")");
+  EXPECT_EQ(lineOf([&] { hook().hidePort(component, true); }), start + R"(-hidePort "y" true)");
+  EXPECT_EQ(lineOf([&] { hook().setPortDataType(1, component, "int"); }),
+            start + R"(-setPortDataType "y" "int")");
+  EXPECT_EQ(lineOf([&] { hook().setPortDataType(0, port("/vec.vector.y"), "int"); }),
+            R"(orvNode "g" "/vec" -setPortDataType "y" "int")");
+  EXPECT_EQ(lineOf([&] { hook().movePort(component, 0); }), start + R"(-movePort "y" 0)");
+  EXPECT_EQ(lineOf([&] { hook().movePortToIONode(inner("/group.tint.y"), "input"); }),
+            start + R"(-movePortToIONode "y" "input")");
+}
+
+TEST_F(HookPorts, DeletePortOfAComponentGoesByTheFullName) {
+  const Trace trace = traceOf([&] { hook().deletePort(port("/vec.vector.y")); });
+  EXPECT_EQ(trace.journal.back(), R"(orvNode "g" "/vec" -deletePort "vector.y")");
+  host.takeMessages();
 }
 
 // Default values.
@@ -193,85 +224,11 @@ TEST_F(HookPorts, ResetPortDefaultValuesOfEitherFace) {
             edit(R"(orvCompound "g" "/group" -resetPortDefaultValues "out")"));
 }
 
-class HookDirectValues : public HookTest {
- protected:
-  /// Sets values directly, which must run no line; gives the calls of the library.
-  Texts setDirectly(const PortHandle& port, const QList<QString>& list) {
-    DirectValueCalls calls;
-    calls.atCall = [this] { brackets = openBrackets(); };
-    EXPECT_EQ(traceOf([&] { hook().setPortDefaultValues(port, list, true); }), Trace{});
-    EXPECT_FALSE(graph.activeChangeBracket()) << "the bracket is closed again";
-    return calls.take();
-  }
-
-  /// The compounds that had a bracket of their own while the values were set; "graph" when it was
-  /// the graph's.
-  Texts brackets;
-
- private:
-  Texts openBrackets() {
-    Texts open;
-    for (const char* path : {"/", "/group"}) {
-      if (ORV_v1::GraphAccess::ownBrackets(*compound(path)) > 0) open.emplace_back(path);
-    }
-    if (ORV_v1::GraphAccess::ownBrackets(graph) > 0) open.emplace_back("graph");
-    return open;
-  }
-};
-
-TEST_F(HookDirectValues, ChangeTheGraphWithoutALine) {
-  EXPECT_THAT(setDirectly(port("/vec.vector"), {"1", "2", "3"}),
-              ElementsAre("node /vec vector {1,2,3} interactive"));
-  EXPECT_THAT(values(port("/vec.vector")), ElementsAre("1", "2", "3"));
-}
-
-TEST_F(HookDirectValues, OfAComponent) {
-  EXPECT_THAT(setDirectly(port("/vec.vector.z"), {"9"}),
-              ElementsAre("node /vec vector.z {9} interactive"));
-  EXPECT_THAT(values(port("/vec.vector")), ElementsAre("0", "0", "9"));
-}
-
-TEST_F(HookDirectValues, AreSetInABracketOfTheLevel) {
-  setDirectly(port("/a.value"), {"2"});
-  EXPECT_THAT(brackets, ElementsAre("/"));
-  setDirectly(port("/group/d.value"), {"2"});
-  EXPECT_THAT(brackets, ElementsAre("/group"));
-  setDirectly(inner("/group.out"), {"2"});
-  EXPECT_THAT(brackets, ElementsAre("/")) << "the level of the compound's node";
-}
-
-TEST_F(HookDirectValues, OfTheTopNodeAreSetInABracketOfTheGraph) {
-  build("/", "-createInputPort size float");
-  setDirectly(port("/.size"), {"2"});
-  EXPECT_THAT(brackets, ElementsAre("graph"));
-  EXPECT_THAT(values(port("/.size")), ElementsAre("2"));
-}
-
-TEST_F(HookDirectValues, OfBothFaces) {
-  EXPECT_THAT(setDirectly(port("/group.in"), {"4"}), ElementsAre("node /group in {4} interactive"));
-  EXPECT_THAT(values(port("/group.in")), ElementsAre("4"));
-  EXPECT_THAT(setDirectly(inner("/group.out"), {"6"}), ElementsAre("compound out {6} interactive"));
-  EXPECT_THAT(values(inner("/group.out")), ElementsAre("6"));
-}
-
-TEST_F(HookDirectValues, OfANodeInsideACompound) {
-  setDirectly(port("/group/d.value"), {"6"});
-  EXPECT_THAT(values(port("/group/d.value")), ElementsAre("6"));
-}
-
-TEST_F(HookDirectValues, ThatDoNotFitChangeNothing) {
-  const std::string before = stored();
-  setDirectly(port("/a.value"), {"nonsense"});
-  setDirectly(port("/a.value"), {"1", "2"});
-  EXPECT_EQ(stored(), before);
-}
-
-TEST_F(HookDirectValues, AreTakenBackByNoUndo) {
-  hook().renameNode(node("/b"), "e");
-  hook().setPortDefaultValues(port("/a.value"), {"3"}, true);
-  host.run("undo");
-  EXPECT_TRUE(node("/b"));
-  EXPECT_THAT(values(port("/a.value")), ElementsAre("3"));
+TEST_F(HookPorts, ResetPortDefaultValuesOfAComponentGoesByTheFullName) {
+  hook().setPortDefaultValues(port("/vec.vector"), {"1", "2", "3"}, false);
+  EXPECT_EQ(editTraceOf([&] { hook().resetPortDefaultValues(port("/vec.vector.y")); }),
+            edit(R"(orvNode "g" "/vec" -resetPortDefaultValues "vector.y")"));
+  EXPECT_THAT(values(port("/vec.vector")), ElementsAre("1", "0", "3"));
 }
 
 }  // namespace

@@ -8,16 +8,27 @@
 #include "standalone/host/engine/OptionVariables.h"
 #include "standalone/widgets/preferences/Preferences.h"
 #include "tests/hook/HookTesting.h"
+#include "tests/hook/LibraryOperation.h"
+#include "tests/support/Latin1Locale.h"
 
 namespace {
 
-/// What the hook told the library of the mouse.
+/// What the hook told the library: of the mouse, and as preferences.
 std::vector<int> toldMouseButtons;
+hosttest::Texts toldPreferences;
 
 }  // namespace
 
-/// Comes ahead of the library's own, which passes over what the hook should not tell.
+/// These come ahead of the library's own, which pass over what the hook should not tell.
 void orvUI_v1::setNumberOfMouseButtons(int count) { toldMouseButtons.push_back(count); }
+
+void orvUI_v1::setUserPrefs(const QJsonDocument& preferences) {
+  toldPreferences.push_back(
+      preferences.isNull() ? "null" : preferences.toJson(QJsonDocument::Compact).data());
+  static const auto own =
+      libraryOperation<void, const QJsonDocument&>("_ZN8orvUI_v112setUserPrefsERK13QJsonDocument");
+  own(preferences);
+}
 
 namespace {
 
@@ -34,6 +45,7 @@ class HookPreferences : public HookTest {
   HookPreferences() {
     preferences().replaceAll(QJsonObject{{"kept", true}});
     toldMouseButtons.clear();
+    toldPreferences.clear();
   }
 
   static Preferences& preferences() { return Preferences::instance(); }
@@ -96,6 +108,27 @@ TEST_F(HookPreferences, AreLeftAloneByWhatIsNoJson) {
     EXPECT_EQ(load(), kExists + kQuery + kMouse) << text;
     EXPECT_EQ(held(), R"({"kept":true})") << text;
   }
+  EXPECT_THAT(toldPreferences, IsEmpty());
+}
+
+TEST_F(HookPreferences, AreToldAsTheDocumentThatWasStored) {
+  for (const std::string text : {"[1,2]", "{}", "[]", "{\"a\":1}"}) {
+    toldPreferences.clear();
+    store(text);
+    load();
+    EXPECT_THAT(toldPreferences, ElementsAre(text));
+  }
+}
+
+TEST_F(HookPreferences, AreUtf8WhateverTheLocale) {
+  const hosttest::Latin1Locale locale;
+  const QJsonObject all{{"Größe", "数据🙂"}};
+  preferences().replaceAll(all);
+  save();
+  EXPECT_EQ(storedText(), R"({"Größe":"数据🙂"})");
+  preferences().replaceAll({{"other", 1}});
+  load();
+  EXPECT_EQ(preferences().all(), all);
 }
 
 TEST_F(HookPreferences, AreLeftAloneByAnArray) {
@@ -167,11 +200,34 @@ TEST_F(HookPreferences, AMouseThatGivesNoNumberIsPassedOver) {
   EXPECT_THAT(toldMouseButtons, IsEmpty());
 }
 
+TEST_F(HookPreferences, AnOptionVariableIsThereForOneAlone) {
+  replace("optionVar", {.doIt = [](KPxCommand& command, auto&) -> KStatus {
+            command.setResult(2u);
+            return StatusSuccess;
+          }});
+  EXPECT_EQ(load(), kExists + kMouse);
+  EXPECT_THAT(toldPreferences, IsEmpty());
+}
+
+TEST_F(HookPreferences, OfAnOptionVariableTheResultsAloneAreLookedAt) {
+  bool asked = false;
+  replace("optionVar", {.doIt = [&asked](KPxCommand& command, auto&) -> KStatus {
+            if (std::exchange(asked, true)) {
+              command.setResult("{\"a\":1}");
+            } else {
+              command.setResult(1u);
+            }
+            return StatusFailure;
+          }});
+  load();
+  EXPECT_THAT(toldPreferences, ElementsAre(R"({"a":1})"));
+}
+
 TEST_F(HookPreferences, AnOptionVariableThatCannotBeAskedIsPassedOver) {
   store("{\"a\":1}");
   replace("optionVar", {.doIt = [](auto&, auto&) -> KStatus { return StatusFailure; }});
   load();
-  EXPECT_EQ(held(), R"({"kept":true})");
+  EXPECT_THAT(toldPreferences, IsEmpty());
 }
 
 /// A program in which no preference was ever set.

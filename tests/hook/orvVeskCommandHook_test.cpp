@@ -1,11 +1,31 @@
 #include "hook/orvVeskCommandHook.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <type_traits>
 
-#include "standalone/widgets/hooks/HookRegistry.h"
+#include "tests/hook/HookTesting.h"
+
+namespace {
+
+/// How hooks were installed.
+hosttest::Texts installed;
+
+void noteInstalled(const char* face, const void* hook, const void* runtime) {
+  installed.push_back(std::string(face) + (hook ? "" : " null") + (runtime ? " of a runtime" : ""));
+}
+
+}  // namespace
+
+/// These come ahead of the library's own, which cannot tell the order.
+void orvUI_v1::setCommandHook(CommandHook* hook, ORV_v1::Runtime* runtime) {
+  noteInstalled("edits", hook, runtime);
+  orvuilib::HookRegistry::install(hook, runtime);
+}
+
+void orvUI_v1::setAppServicesHook(AppServicesHook* hook) {
+  noteInstalled("services", hook, nullptr);
+  orvuilib::HookRegistry::install(hook);
+}
 
 namespace {
 
@@ -58,6 +78,48 @@ TEST(OrvVeskCommandHook, GoingLeavesAnotherInPlace) {
   first.reset();
   EXPECT_EQ(Registry::commandHook(), static_cast<CommandHook*>(&second));
   EXPECT_EQ(Registry::appServicesHook(), static_cast<AppServicesHook*>(&second));
+}
+
+TEST(OrvVeskCommandHook, InstallsTheEditsFirstAndTakesNothingAway) {
+  installed.clear();
+  std::make_unique<orvVeskCommandHook>().reset();
+  EXPECT_THAT(installed, testing::ElementsAre("edits", "services"));
+}
+
+TEST(OrvVeskCommandHook, OfTheModuleInstallsItselfOnceAndTakesNothingAway) {
+  hosttest::GraphHost host;
+  installed.clear();
+  ASSERT_TRUE(host.session().plugins().load(kModulePath));
+  EXPECT_THAT(installed, testing::ElementsAre("edits", "services"));
+  installed.clear();
+  ASSERT_TRUE(host.session().plugins().unload(kModuleName));
+  EXPECT_THAT(installed, testing::IsEmpty());
+}
+
+class HookOperations : public HookTest {
+ protected:
+  /// Lets a command note whether a change bracket is open while it runs.
+  void watch(const std::string& command) {
+    replace(command, {.doIt = [this, command](auto&, auto&) -> KStatus {
+              const bool open = graph.activeChangeBracket() || level().activeChangeBracket();
+              seen.push_back(command + (open ? " in a bracket" : ""));
+              return StatusSuccess;
+            }});
+  }
+
+  ORV_v1::Compound& level() { return *top(); }
+
+  Texts seen;
+};
+
+/// That is left to the commands.
+TEST_F(HookOperations, OpenNoChangeBracketForALine) {
+  for (const char* command : {"orvCompound", "orvNode", "orvConnect", "orvPort"}) watch(command);
+  hook().renameNode(node("/a"), "e");
+  hook().setPortDefaultValues(port("/a.value"), {"1"}, false);
+  hook().connectPorts(port("/a.result"), port("/b.value"), false);
+  hook().setPortFlag(port("/a.value"), 8);
+  EXPECT_THAT(seen, testing::ElementsAre("orvCompound", "orvNode", "orvConnect", "orvPort"));
 }
 
 }  // namespace

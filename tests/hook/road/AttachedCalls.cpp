@@ -80,13 +80,20 @@ void setPortMetaDataValue(Caller& caller) {
   }
 }
 
+bool isWatched(const RandomObjects::PortHandle& port) { return bool(port->getWatchPoint()); }
+
+/// Mostly of a port that is watched.
 void editWatchPoint(Caller& caller) {
-  const auto port = caller.any.port();
+  const auto watched =
+      caller.any.below(4) != 0 ? caller.any.portThat(isWatched) : RandomObjects::PortHandle();
+  const auto port = watched ? watched : caller.any.port();
   if (!port) return;
-  const unsigned operation = port->getWatchPoint()
+  const unsigned operation = isWatched(port)
                                  ? caller.any.below(CommandHook::kSetWatchPointMetaData + 2)
                                  : CommandHook::kCreateWatchPoint;
-  caller.edits().editWatchPoint(operation, port, caller.any.key(), caller.any.any());
+  if (caller.edits().editWatchPoint(operation, port, caller.any.key(), caller.any.any())) {
+    ++caller.worked["editWatchPoint " + std::to_string(operation)];
+  }
 }
 
 constexpr Call kCalls[] = {
@@ -98,7 +105,7 @@ constexpr Call kCalls[] = {
     {"setStateFlag", setStateFlag, 4},
     {"editAnnotation", editAnnotation, 8},
     {"setPortMetaDataValue", setPortMetaDataValue, 5},
-    {"editWatchPoint", editWatchPoint, 6},
+    {"editWatchPoint", editWatchPoint, 9},
 };
 
 }  // namespace

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <map>
 #include <span>
+#include <string>
 
 #include "tests/hook/road/RandomObjects.h"
 #include "tests/hook/road/Road.h"
@@ -14,6 +16,12 @@ struct Caller {
 
   Road& road;
   RandomObjects any;
+
+  /// The ports that calls made, also those that are gone, which an undo may bring back.
+  RandomObjects::Ports madePorts;
+
+  /// How often calls did what can easily fail.
+  std::map<std::string, unsigned> worked;
 
   bool suspended = false;
 

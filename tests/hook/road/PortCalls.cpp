@@ -1,5 +1,7 @@
 // Calls that make, name, remove, hide and move ports, and set their type, flags and values.
 
+#include <algorithm>
+
 #include "platform/ORV_1_0/QtConversions.h"
 #include "tests/hook/road/Calls.h"
 
@@ -36,6 +38,7 @@ void createNodePort(Caller& caller) {
   if (!node) return;
   RandomObjects::PortHandle port;
   caller.edits().createNodePort(node, caller.any.below(2), hints(caller, caller.any.name()), port);
+  if (port) caller.madePorts.push_back(port);
 }
 
 /// An array input that takes members, and one member.
@@ -61,9 +64,36 @@ void renamePort(Caller& caller) {
   if (const auto port = namedPort(caller)) caller.edits().renamePort(port, caller.any.name());
 }
 
+bool isMade(const Caller& caller, const RandomObjects::PortHandle& port) {
+  return std::ranges::any_of(caller.madePorts,
+                             [&](const auto& made) { return made.get() == port.get(); });
+}
+
+/// Mostly one that is not of the node's definition, which keeps its ports.
+RandomObjects::PortHandle portToDelete(Caller& caller) {
+  switch (caller.any.below(6)) {
+    case 0:
+      return caller.any.port();
+    case 1:
+      return caller.any.compoundPort();
+    case 2:
+    case 3:
+      return caller.any.portThat([](const auto& port) { return port->isMemberFanIn(); });
+    default:
+      return caller.any.portThat([&](const auto& port) { return isMade(caller, port); });
+  }
+}
+
 void deletePort(Caller& caller) {
-  const auto port = caller.any.below(2) ? caller.any.port() : caller.any.compoundPort();
-  if (port) caller.edits().deletePort(port);
+  const auto port = portToDelete(caller);
+  if (!port) return;
+  const bool member = port->isMemberFanIn(), ofCompound = port->getParentNode()->isCompound();
+  caller.edits().deletePort(port);
+  const auto same = [&](const auto& other) { return other.get() == port.get(); };
+  if (caller.any.portThat(same)) return;
+  ++caller.worked[member       ? "deletePort of a member"
+                  : ofCompound ? "deletePort of a compound"
+                               : "deletePort of a node"];
 }
 
 void hidePort(Caller& caller) {
@@ -138,11 +168,11 @@ void resetPortDefaultValues(Caller& caller) {
 }
 
 constexpr Call kCalls[] = {
-    {"createNodePort", createNodePort, 4},
+    {"createNodePort", createNodePort, 7},
     {"createNodePort of a member", createMember, 3},
     {"createCompoundPort", createCompoundPort, 6},
     {"renamePort", renamePort, 5},
-    {"deletePort", deletePort, 5},
+    {"deletePort", deletePort, 10},
     {"hidePort", hidePort, 4},
     {"setPortDataType", setPortDataType, 6},
     {"movePort", movePort, 4},

@@ -96,6 +96,15 @@ RandomObjects::PortHandle RandomObjects::compoundPort() {
 
 RandomObjects::PortHandle RandomObjects::port() { return one(portsOf(compound())); }
 
+RandomObjects::Ports RandomObjects::ports() const {
+  Ports all;
+  for (const CompoundHandle& level : compounds()) {
+    const Ports more = portsOf(level);
+    all.insert(all.end(), more.begin(), more.end());
+  }
+  return all;
+}
+
 RandomObjects::PortHandle RandomObjects::source(const CompoundHandle& level) {
   return one(facing(portsOf(level), PortIOType::kOutput));
 }

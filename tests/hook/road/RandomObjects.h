@@ -37,6 +37,17 @@ class RandomObjects : public RandomTexts {
   /// Any port, also a component or a member; null without any.
   PortHandle port();
 
+  /// Every port of every level, as `port` gives them.
+  Ports ports() const;
+
+  /// One that is as wanted, of any level; null without any.
+  template <class Predicate>
+  PortHandle portThat(Predicate wanted) {
+    Ports found = ports();
+    std::erase_if(found, [&](const PortHandle& port) { return !wanted(port); });
+    return one(found);
+  }
+
   /// Two that look as if they could be connected, of one level; null without any.
   PortHandle source(const CompoundHandle& level);
   PortHandle destination(const CompoundHandle& level);

@@ -10,43 +10,18 @@
 #include "platform/ORV_1_0/NodeList.h"
 #include "platform/ORV_1_0/QtConversions.h"
 #include "platform/orvUI_1_0/UserPrefs.h"
-#include "standalone/host/language/Tokenizer.h"
 #include "tests/hook/road/RandomObjects.h"
 #include "tests/hook/road/Road.h"
+#include "tests/hook/road/Words.h"
 
 namespace {
 
 using namespace std::string_literals;
 
 using orvUI_v1::CommandHook;
-using vesk::TokenKind;
 
 /// So many pairs, each for every handler.
 constexpr unsigned kTexts = 2000;
-
-/// A token of a line: a text in quotes, or, written as a literal here, a bare word or flag.
-struct Word {
-  Word(std::string given) : text(std::move(given)), kind(TokenKind::Quoted) {}
-  Word(const char* bare) : text(bare), kind(*bare == '-' ? TokenKind::Flag : TokenKind::Word) {}
-  bool operator==(const Word&) const = default;
-
-  std::string text;
-  TokenKind kind;
-};
-using Words = std::vector<Word>;
-
-void PrintTo(const Word& word, std::ostream* out) {
-  *out << (word.kind == TokenKind::Quoted ? vesk::quoted(word.text) : word.text);
-}
-
-Words wordsOf(const vesk::Statement& statement) {
-  Words words;
-  for (const vesk::Token& token : statement.tokens) {
-    Word& word = words.emplace_back(token.text);
-    word.kind = token.kind;
-  }
-  return words;
-}
 
 std::string utf8(const QString& text) { return text.toStdString(); }
 
@@ -91,6 +66,7 @@ class TokensOfTexts : public testing::Test {
   void nodes(const QString& one, const QString& two);
   void published(const QString& one, const QString& two);
   void ports(const QString& one, const QString& two);
+  void portProperties(const QString& one, const QString& two);
   void portValues(const QString& one, const QString& two);
   void metadata(const QString& one, const QString& two);
   void annotations(const QString& one, const QString& two);
@@ -173,20 +149,50 @@ void TokensOfTexts::ports(const QString& one, const QString& two) {
        {"-renamePort", "size"s, a});
 }
 
-/// Lists and sets are read back in two steps, as the commands do.
+/// A list as one text, from which the same list is read again.
+std::string joined(const QList<QString>& values) {
+  const std::string text = ORV_v1::fromQStringList(values)
+                               .serialize(ORV_v1::StringArray::kSerializeWithTags,
+                                          ORV_v1::StringArray::kDefaultSerializationTags)
+                               .toChar();
+  ORV_v1::StringArray read;
+  EXPECT_TRUE(ORV_v1::Port::unserializePortValuesString(text.c_str(), read, {}));
+  EXPECT_EQ(ORV_v1::toQStringList(read), values) << text;
+  return text;
+}
+
+/// Lists and sets are read back in two steps, as the commands do. A set comes from a node's
+/// metadata.
+void TokensOfTexts::portProperties(const QString& one, const QString& two) {
+  const QString key = "k" + one;
+  road_.edits().setMetaData(0, node_, key, two);
+  const ORV_v1::PropertyList options = node_->getMetadata();
+  road_.takeLines();
+  ORV_v1::PortProperties properties;
+  properties.setFlags(4);
+  properties.defaultValues().setValues(ORV_v1::fromQStringList({one, two}));
+  properties.options() = options;
+  ORV_v1::NewPortHints hints = hintsOf("p", "int");
+  hints.setPropertiesHint(properties);
+
+  const std::string set = options.serialize(ORV_v1::PropertyList::kSerializeAll).toChar();
+  const Words words = {"p"s,           "int"s, "-portFlags", "4", "-portValues", joined({one, two}),
+                       "-portOptions", set};
+  RandomObjects::PortHandle port;
+  call(
+      "createNodePort", [&](CommandHook& hook) { hook.createNodePort(node_, false, hints, port); },
+      words);
+  port = {};
+  call(
+      "createCompoundPort",
+      [&](CommandHook& hook) { hook.createCompoundPort(compound_, false, hints, port); }, words);
+}
+
 void TokensOfTexts::portValues(const QString& one, const QString& two) {
   const QList<QString> values = {one, two};
-  operation_ = "setPortDefaultValues";
-  const std::string name = port_->getName();
-  road_.edits().setPortDefaultValues(port_, values, false);
-  const std::string joined = ORV_v1::fromQStringList(values)
-                                 .serialize(ORV_v1::StringArray::kSerializeWithTags,
-                                            ORV_v1::StringArray::kDefaultSerializationTags)
-                                 .toChar();
-  expectWords({"-setPortDefaultValues", name, joined});
-  ORV_v1::StringArray read;
-  ASSERT_TRUE(ORV_v1::Port::unserializePortValuesString(joined.c_str(), read, {}));
-  EXPECT_EQ(ORV_v1::toQStringList(read), values) << joined;
+  call("setPortDefaultValues",
+       [&](CommandHook& hook) { hook.setPortDefaultValues(port_, values, false); },
+       {"-setPortDefaultValues", port_->getName() + ""s, joined(values)});
 }
 
 void TokensOfTexts::metadata(const QString& one, const QString& two) {
@@ -253,6 +259,8 @@ TEST_F(TokensOfTexts, AreTheTextsThatWereGiven) {
     published(one, two);
     goBack();
     ports(one, two);
+    goBack();
+    portProperties(one, two);
     goBack();
     portValues(one, two);
     metadata(one, two);
