@@ -1,12 +1,13 @@
 # The libraries that the project stands on, and the shape that its own targets share.
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Widgets)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Widgets Test)
 find_package(GTest 1.12 REQUIRED)
 find_package(benchmark 1.7 REQUIRED)
 find_package(absl REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(Libedit REQUIRED IMPORTED_TARGET libedit)
 pkg_check_modules(YamlCpp REQUIRED IMPORTED_TARGET yaml-cpp)
+pkg_check_modules(Graphviz REQUIRED IMPORTED_TARGET libgvc libcgraph)
 pkg_check_modules(OpenColorIO REQUIRED IMPORTED_TARGET OpenColorIO)
 
 # vesk_library(NAME SOURCES... ) : a shared library of the standalone platform. Its headers are reached

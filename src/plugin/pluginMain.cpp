@@ -7,6 +7,10 @@
 #include "commands/graph/orvConnectCmd.h"
 #include "commands/graph/orvNodeCmd.h"
 #include "commands/graph/orvPortCmd.h"
+#include "editors/editorRegistry.h"
+#include "editors/orvCompoundEditorCmd.h"
+#include "editors/orvParameterEditorCmd.h"
+#include "editors/parameterPanels.h"
 #include "platform/OpenVesk/KFnPlugin.h"
 #include "platform/OpenVesk/KMessage.h"
 #include "platform/OpenVesk/KSceneMessage.h"
@@ -14,8 +18,6 @@
 #include "plugin/orvChangeBracketCmd.h"
 #include "plugin/pluginMessages.h"
 #include "plugin/pluginName.h"
-
-KString pluginName;
 
 namespace {
 
@@ -29,10 +31,17 @@ struct CommandRow {
   const char* name;
   KFnPlugin::Creator creator;
   KFnPlugin::SyntaxFunction syntax;
+
+  /// Whether it counts that the command comes up and goes down.
+  bool counts = true;
 };
 
 /// In the order in which the commands come up and go down.
 constexpr CommandRow kCommands[] = {
+    {"orvCompoundEditor", orvCompoundEditorCmd::creator, orvCompoundEditorCmd::createSyntax},
+    {"orvCompoundEditorWindow", orvCompoundEditorCmd::creator, orvCompoundEditorCmd::createSyntax,
+     false},
+    {"orvParameterEditor", orvParameterEditorCmd::creator, orvParameterEditorCmd::createSyntax},
     {"orv", orvActionCmd::creator, orvActionCmd::createSyntax},
     {"orvChangeBracket", orvChangeBracketCmd::creator, orvChangeBracketCmd::createSyntax},
     {"orvCompound", orvCompoundCmd::creator, orvCompoundCmd::createSyntax},
@@ -45,8 +54,15 @@ constexpr CommandRow kCommands[] = {
 };
 
 void registerCommand(KFnPlugin& plugin, const CommandRow& row, KStatus& status) {
-  status = plugin.registerCommand(row.name, row.creator, row.syntax);
+  const KStatus registered = plugin.registerCommand(row.name, row.creator, row.syntax);
+  if (!row.counts) return;
+  status = registered;
   if (!status) displayError(rRegisterCommandError, row.name);
+}
+
+void deregisterCommand(KFnPlugin& plugin, const CommandRow& row, KStatus& status) {
+  const KStatus deregistered = plugin.deregisterCommand(row.name);
+  if (row.counts) status = deregistered;
 }
 
 void removeSceneCallback() {
@@ -55,8 +71,17 @@ void removeSceneCallback() {
   sceneCallbackId = 0;
 }
 
+/// By host commands: while the module's own are still there.
+void closePanels() {
+  closeCompoundEditors();
+  closeParameterEditors();
+}
+
 /// The program is about to exit.
-void onSceneMessage(void*) { removeSceneCallback(); }
+void onSceneMessage(void*) {
+  removeSceneCallback();
+  closePanels();
+}
 
 }  // namespace
 
@@ -85,7 +110,8 @@ VESK_EXPORT KStatus uninitializePlugin(KObject object) {
   KStatus status;
   KFnPlugin plugin(object, kVendor, kVersion, kRequiredHost, &status);
   removeSceneCallback();
-  for (const CommandRow& row : kCommands) status = plugin.deregisterCommand(row.name);
+  closePanels();
+  for (const CommandRow& row : kCommands) deregisterCommand(plugin, row, status);
   return status;
 }
 

@@ -13,8 +13,21 @@ using testing::IsEmpty;
 using Texts = std::vector<std::string>;
 
 /// The module's commands, in the order in which they come up and go down.
-const Texts kCommands = {"orv",     "orvChangeBracket", "orvCompound",   "orvConnect", "orvCopy",
-                         "orvNode", "orvPaste",         "orvWatchPoint", "orvPort"};
+const Texts kCommands = {"orvCompoundEditor",
+                         "orvCompoundEditorWindow",
+                         "orvParameterEditor",
+                         "orv",
+                         "orvChangeBracket",
+                         "orvCompound",
+                         "orvConnect",
+                         "orvCopy",
+                         "orvNode",
+                         "orvPaste",
+                         "orvWatchPoint",
+                         "orvPort"};
+
+/// A second name of the first command: it does not count whether it comes up and goes down.
+const char* const kAlias = "orvCompoundEditorWindow";
 
 /// The last command, whose status is that of the load and of the unload.
 const char* const kLast = kCommands.back().c_str();
@@ -26,9 +39,10 @@ Texts callsOf(const std::string& call) {
   return calls;
 }
 
-/// The names from the one at `first` on as JSON, sorted as the host lists them.
-std::string listed(std::size_t first = 0) {
-  Texts names(kCommands.begin() + static_cast<std::ptrdiff_t>(first), kCommands.end());
+/// All names but one as JSON, sorted as the host lists them.
+std::string listed(const std::string& without = {}) {
+  Texts names = kCommands;
+  std::erase(names, without);
   std::sort(names.begin(), names.end());
   return vesk::toJson(names);
 }
@@ -122,11 +136,18 @@ TEST_F(PluginMain, AnotherTakenNameIsToldAndTheLoadSucceeds) {
   takeName("orv");
   EXPECT_TRUE(load());
   EXPECT_THAT(takeMessages(), ElementsAre("! Failed to register plugin command: orv"));
-  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), listed(1));
+  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), listed("orv"));
+}
+
+TEST_F(PluginMain, ATakenSecondNameIsPassedOver) {
+  takeName(kAlias);
+  EXPECT_TRUE(load());
+  EXPECT_EQ(resultOf("pluginInfo -command veskOrvPlugin"), listed(kAlias));
+  EXPECT_TRUE(unload());
 }
 
 TEST_F(PluginMain, ATakenNameKeepsItsCommand) {
-  for (const char* name : {"orv", kLast}) {
+  for (const char* name : {"orv", kAlias, kLast}) {
     takeName(name);
     load();
     EXPECT_EQ(session_->registry().find(name)->owner, nullptr) << name;

@@ -15,7 +15,7 @@ namespace orvUI_v1 {
 class ORVUI_EXPORT CompoundEditor : public QWidget {
  public:
   /// A new editor that shows nothing. It belongs to its Qt parent, or to the caller when that is
-  /// null.
+  /// null. Null in a program that has no `QApplication`.
   static CompoundEditor* create(QWidget* parent);
 
   /// The runtime whose nodes are offered first; an unknown or null name changes nothing.

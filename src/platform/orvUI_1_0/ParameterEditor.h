@@ -17,6 +17,7 @@ class ORVUI_EXPORT ParameterEditor : public QWidget {
  public:
   /// A new editor in the mode `kParameters`. It belongs to its Qt parent, or to the caller when
   /// that is null.
+  /// Null in a program that has no `QApplication`.
   static ParameterEditor* create(QWidget* parent);
 
   virtual void setMode(ParameterEditorMode mode) = 0;

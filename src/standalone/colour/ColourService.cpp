@@ -18,6 +18,11 @@ void warnUser(const std::string& text) {
   std::cerr << "Warning: " << text << std::endl;
 }
 
+std::string pathOf(const ColourOptions& options) {
+  return options.readsEnvironment ? configurationPath(options.configuration)
+                                  : options.configuration;
+}
+
 std::string quoted(std::string_view text) { return "'" + std::string(text) + "'"; }
 
 std::string describe(const Target& target) {
@@ -31,7 +36,7 @@ std::string describe(const Target& target) {
 ColourService::ColourService(ColourOptions options)
     : warningSink_(options.warn ? std::move(options.warn) : warnUser),
       enabled_(options.enabled),
-      configuration_(loadConfiguration(configurationPath(options.configuration), warningSink_)),
+      configuration_(loadConfiguration(pathOf(options), warningSink_)),
       cache_(configuration_.config),
       spaces_(listMixingSpaces(*configuration_.config)),
       mixing_(&spaces_.front()),
@@ -46,6 +51,12 @@ ColourService* ColourService::current() { return currentService; }
 
 ColourService* ColourService::active() {
   return currentService && currentService->enabled_ ? currentService : nullptr;
+}
+
+void ColourService::setEnabled(bool enabled) {
+  if (enabled == enabled_) return;
+  enabled_ = enabled;
+  tellChange();
 }
 
 KStatus ColourService::setMixingSpace(std::string_view name) {
@@ -122,6 +133,7 @@ KStatus ColourService::choose(MixingSpace& space, const std::string& view) {
     screen_ = target;
     screenTransforms_ = *transforms;
   }
+  tellChange();
   return StatusSuccess;
 }
 
@@ -135,6 +147,10 @@ std::optional<TransformPair> ColourService::findTransforms(const Target& target)
 }
 
 void ColourService::warn(const std::string& text) const { warningSink_(utf8::repaired(text)); }
+
+void ColourService::tellChange() const {
+  if (changed_) changed_();
+}
 
 std::string ColourService::configurationName() const {
   const std::string& path = configuration_.path;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,8 @@ namespace vesk::colour {
 struct ColourOptions {
   /// File; empty: that of the environment variable OCIO, else the shipped one.
   std::string configuration = {};
+  /// Whether the environment variable counts.
+  bool readsEnvironment = true;
   bool enabled = true;
   /// Empty: the messages of the current host session.
   WarningSink warn = {};
@@ -41,7 +44,7 @@ class ColourService {
 
   bool isEnabled() const { return enabled_; }
   /// The choice of spaces is kept while colour management is off.
-  void setEnabled(bool enabled) { enabled_ = enabled; }
+  void setEnabled(bool enabled);
 
   const Configuration& configuration() const { return configuration_; }
   const std::vector<MixingSpace>& mixingSpaces() const { return spaces_; }
@@ -62,6 +65,9 @@ class ColourService {
   float mixingToSlider(float value, float minimum, float maximum) const;
   float sliderToMixing(float position, float minimum, float maximum) const;
 
+  /// Called after each change of what colours look like: switch, space or view.
+  void setChangeListener(std::function<void()> listener) { changed_ = std::move(listener); }
+
   /// The picker is borrowed; whoever sets it takes it away, with null, before it goes.
   void setScreenPicker(ScreenPicker* picker) { picker_ = picker; }
 
@@ -76,6 +82,7 @@ class ColourService {
   KStatus choose(MixingSpace& space, const std::string& view);
   std::optional<TransformPair> findTransforms(const Target& target);
   void warn(const std::string& text) const;
+  void tellChange() const;
   std::string configurationName() const;
 
   WarningSink warningSink_;
@@ -89,6 +96,7 @@ class ColourService {
   Target screen_;
   TransformPair screenTransforms_;
   ScreenPicker* picker_ = nullptr;
+  std::function<void()> changed_;
   ColourService* previous_;
 };
 

@@ -9,6 +9,7 @@
 #include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/engine/HostVersion.h"
 #include "standalone/host/engine/ScriptReader.h"
+#include "standalone/vesk/Gui.h"
 #include "standalone/vesk/LineSource.h"
 #include "standalone/vesk/Prompt.h"
 #include "standalone/vesk/Startup.h"
@@ -29,14 +30,16 @@ int cannotStart(std::string_view reason) {
 /// Runs lines until one fails, unless it shall keep going, or quits.
 class LineRunner {
  public:
-  LineRunner(Platform& platform, LineListener& listener, bool keepGoing)
-      : platform_(platform), listener_(listener), keepGoing_(keepGoing) {}
+  /// `settle`, which may be null, is called after each line.
+  LineRunner(Platform& platform, LineListener& listener, bool keepGoing, void (*settle)())
+      : platform_(platform), listener_(listener), keepGoing_(keepGoing), settle_(settle) {}
 
   /// Runs what the start-up left for idle time, then the lines of the source.
   void run(const LineSource& source, bool tellPlace) {
     if (!goesOnAfter(platform_.session().runIdleLines(), "start-up: ")) return;
     while (const auto line = source()) {
       const KStatus status = platform_.runLine(line->text, listener_);
+      if (settle_) settle_();
       if (!goesOnAfter(status, tellPlace ? line->place + ": " : "")) return;
     }
   }
@@ -65,30 +68,42 @@ class LineRunner {
   Platform& platform_;
   LineListener& listener_;
   bool keepGoing_;
+  void (*settle_)();
   bool failed_ = false;
 };
 
-int runAll(const ProgramOptions& options, LineListener& listener, Console& console) {
+LineSource prompt(HostSession& session) {
+  const std::string& folder = session.options().preferencesFolder;
+  return promptLines(session.registry(), folder.empty() ? "" : folder + "/history");
+}
+
+/// `gui` is null for a program without a window.
+int runAll(const ProgramOptions& options, LineListener& listener, Console& console, Gui* gui) {
   std::string reason;
   const auto inputs = openInputs(options.inputs, reason);
   if (!inputs) return cannotStart(reason);
   Platform platform(options, console, !options.transcript);
   if (!platform.problem().empty()) return cannotStart(platform.problem());
 
-  LineRunner runner(platform, listener, options.keepGoing || !options.batch);
-  if (!options.batch) {
-    const std::string& folder = platform.session().options().preferencesFolder;
-    runner.run(
-        promptLines(platform.session().registry(), folder.empty() ? "" : folder + "/history"),
-        false);
-  } else {
+  HostSession& session = platform.session();
+  const auto window = gui ? gui->open(session, options) : nullptr;
+  // In front of a window nothing waits for the program's end.
+  if (gui) std::cout << std::unitbuf;
+  LineRunner runner(platform, listener, options.keepGoing || !options.batch,
+                    gui ? Gui::settleSometimes : nullptr);
+  if (options.batch) {
     runner.run(options.inputs.empty() ? standardInput() : *inputs, true);
+  } else if (gui) {
+    runner.run(*inputs, true);
+    gui->run(session, *window);
+  } else {
+    runner.run(prompt(session), false);
   }
   return runner.exitStatus();
 }
 
 /// Runs one transcript in a platform of its own.
-int checkTranscript(const ProgramOptions& options, const std::string& path) {
+int checkTranscript(const ProgramOptions& options, const std::string& path, Gui* gui) {
   std::string reason;
   const auto before = readScript(path, reason, Pipes::Allowed);
   if (!before) return cannotStart("cannot read the transcript \"" + path + "\": " + reason);
@@ -96,8 +111,10 @@ int checkTranscript(const ProgramOptions& options, const std::string& path) {
   Console console(std::cout, std::cerr);
   Platform platform(options, console, false);
   if (!platform.problem().empty()) return cannotStart(platform.problem());
-  const auto run = [&platform](std::string_view line, LineListener& writer) {
+  const auto window = gui ? gui->open(platform.session(), options) : nullptr;
+  const auto run = [&](std::string_view line, LineListener& writer) {
     platform.runLine(line, writer);
+    if (gui) Gui::settle();
   };
   const int statusWhenTrue = platform.session().runIdleLines() ? kAllWell : kLineFailed;
   const std::string after = rerunTranscript(*before, run, reason);
@@ -110,10 +127,10 @@ int checkTranscript(const ProgramOptions& options, const std::string& path) {
   return reason.empty() ? statusWhenTrue : cannotStart("cannot write \"" + path + "\": " + reason);
 }
 
-int checkTranscripts(const ProgramOptions& options) {
+int checkTranscripts(const ProgramOptions& options, Gui* gui) {
   int worst = kAllWell;
   for (const ProgramOptions::Input& input : options.inputs) {
-    worst = std::max(worst, checkTranscript(options, input.text));
+    worst = std::max(worst, checkTranscript(options, input.text, gui));
   }
   return worst;
 }
@@ -135,6 +152,14 @@ std::string scriptUnderJournal(const ProgramOptions& options) {
   return {};
 }
 
+/// Null when no window is asked for, or there is no display to show it on.
+std::unique_ptr<Gui> makeGui(const ProgramOptions& options) {
+  if (!options.gui) return nullptr;
+  if (hasDisplay()) return std::make_unique<Gui>();
+  std::cerr << "vesk: there is no display, so there is no window" << std::endl;
+  return nullptr;
+}
+
 int runAsAsked(int argc, char** argv) {
   ProgramOptions options;
   const std::string problem = readProgramOptions(argc, argv, options);
@@ -149,12 +174,14 @@ int runAsAsked(int argc, char** argv) {
   }
   const std::string overwritten = scriptUnderJournal(options);
   if (!overwritten.empty()) return cannotStart("the journal would overwrite " + overwritten);
-  options.batch = options.batch || !options.inputs.empty() || !isatty(STDIN_FILENO);
-  if (options.check) return checkTranscripts(options);
+  const std::unique_ptr<Gui> gui = makeGui(options);
+  const bool asksNobody = !options.inputs.empty() || !isatty(STDIN_FILENO);
+  options.batch = options.batch || options.check || (!gui && asksNobody);
+  if (options.check) return checkTranscripts(options, gui.get());
   Console console(std::cout, std::cerr);
-  if (!options.transcript) return runAll(options, console, console);
+  if (!options.transcript) return runAll(options, console, console, gui.get());
   TranscriptWriter writer(std::cout);
-  return runAll(options, writer, console);
+  return runAll(options, writer, console, gui.get());
 }
 
 }  // namespace

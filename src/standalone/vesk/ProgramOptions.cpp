@@ -44,8 +44,14 @@ const OptionRow kOptions[] = {
      [](ProgramOptions& o, const char* a) { o.publishedFolder = a; }},
     {"journal", 0, "FILE", "write the lines that ran to this file",
      [](ProgramOptions& o, const char* a) { o.journal = a; }},
+    {"colors", 0, "FILE", "use this colour configuration (also: OCIO)",
+     [](ProgramOptions& o, const char* a) { o.colours = a; }},
     {"language", 0, "NAME", "show texts in this language, such as de (default: the locale's)",
      [](ProgramOptions& o, const char* a) { o.language = a; }},
+    {"gui", 0, nullptr, "open the window; with --batch only until the lines have run",
+     [](ProgramOptions& o, const char*) { o.gui = true; }},
+    {"scale", 0, "PERCENT", "with --gui: scale the interface to 100, 125, 150, 175 or 200",
+     [](ProgramOptions& o, const char* a) { o.scale = a; }},
     {"version", 0, nullptr, "print the version and exit",
      [](ProgramOptions& o, const char*) { o.version = true; }},
     {"help", 'h', nullptr, "print this and exit",
@@ -79,7 +85,18 @@ std::string unknownOption(const char* argument) {
   return letter ? std::string("-") + static_cast<char>(optopt) : argument;
 }
 
+/// Only what is written just so: "0150" and "150.0" are no scale.
+std::string problemOfScale(const ProgramOptions& options) {
+  if (options.scale.empty()) return {};
+  if (!options.gui) return "--scale goes with --gui";
+  for (const int scale : {100, 125, 150, 175, 200}) {
+    if (options.scale == std::to_string(scale)) return {};
+  }
+  return "--scale takes 100, 125, 150, 175 or 200, not " + options.scale;
+}
+
 std::string contradiction(const ProgramOptions& options) {
+  if (const std::string problem = problemOfScale(options); !problem.empty()) return problem;
   if (options.update && !options.check) return "--update goes with --check";
   if (options.check && options.transcript) return "--check and --transcript exclude each other";
   if (options.noPlugin && !options.plugins.empty()) {

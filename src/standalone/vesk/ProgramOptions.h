@@ -20,7 +20,10 @@ struct ProgramOptions {
   std::string publishedFolder;
   std::string journal;
   std::string language;
-  bool batch = false;  ///< never prompt; whoever runs the lines sets it when nobody can answer
+  std::string colours;  ///< file of the colour configuration; empty for the usual one
+  std::string scale;    ///< of the interface, in percent; empty for the user's
+  bool batch = false;   ///< never prompt; whoever runs the lines sets it when nobody can answer
+  bool gui = false;
   bool transcript = false;
   bool check = false;
   bool update = false;

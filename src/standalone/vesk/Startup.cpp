@@ -3,10 +3,13 @@
 #include <filesystem>
 #include <utility>
 
+#include "standalone/colour/colorManagementCommand.h"
 #include "standalone/host/scene/Scene.h"
 #include "standalone/vesk/DataFolders.h"
 #include "standalone/vesk/OrvGraphPayload.h"
 #include "standalone/vesk/evaluateCommand.h"
+#include "standalone/widgets/colour/ColourRegistry.h"
+#include "standalone/workspace/workspaceCommands.h"
 
 namespace vesk {
 namespace {
@@ -29,6 +32,14 @@ std::string publishedFolder(const ProgramOptions& options, bool kept) {
   return byDefault ? defaultPublishedFolder() : options.publishedFolder;
 }
 
+/// What a user has in the environment does not count where nothing of the user's does.
+colour::ColourOptions colourOptions(const ProgramOptions& options, bool kept) {
+  colour::ColourOptions colours;
+  colours.configuration = options.colours;
+  colours.readsEnvironment = kept;
+  return colours;
+}
+
 }  // namespace
 
 Platform::Platform(const ProgramOptions& options, LineListener& listener, bool kept)
@@ -38,6 +49,10 @@ Platform::Platform(const ProgramOptions& options, LineListener& listener, bool k
   session_ = std::make_unique<HostSession>(std::move(session));
   addOrvGraphType(session_->scene().types());
   registerEvaluateCommand(session_->registry());
+  colour::registerColorManagementCommand(session_->registry());
+  colours_ = std::make_unique<colour::ColourService>(colourOptions(options, kept));
+  colours_->setChangeListener([] { orvuilib::ColourRegistry::instance().tellChange(); });
+  registerWorkspaceCommands(session_->registry());
   runtimes_->makeCurrent();
   runtimes_->setPublishedFolder(publishedFolder(options, kept));
   runtimes_->setDiagnosticHandler([this](const orvlib::Diagnostic& diagnostic) {
@@ -52,6 +67,7 @@ Platform::Platform(const ProgramOptions& options, LineListener& listener, bool k
 
 Platform::~Platform() {
   session_.reset();
+  colours_.reset();
   runtimes_.reset();
 }
 

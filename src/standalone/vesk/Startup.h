@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "standalone/colour/ColourService.h"
 #include "standalone/graph/library/RuntimeRegistry.h"
 #include "standalone/host/engine/HostSession.h"
 #include "standalone/vesk/Console.h"
@@ -35,6 +36,7 @@ class Platform {
   LineListener* listener_;
   std::unique_ptr<orvlib::RuntimeRegistry> runtimes_;
   std::unique_ptr<HostSession> session_;
+  std::unique_ptr<colour::ColourService> colours_;
   std::string problem_;
 };
 

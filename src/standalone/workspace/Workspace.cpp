@@ -1,5 +1,7 @@
 #include "standalone/workspace/Workspace.h"
 
+#include <QCoreApplication>
+#include <QThread>
 #include <algorithm>
 #include <array>
 
@@ -22,12 +24,33 @@ Workspace::~Workspace() {
 
 Workspace* Workspace::current() { return currentWorkspace; }
 
+bool isInterfaceScale(int percent) {
+  return std::find(kScales.begin(), kScales.end(), percent) != kScales.end();
+}
+
 int interfaceScale() {
+  const Workspace* workspace = Workspace::current();
+  const int ofThisRun = workspace ? workspace->scaleForThisRun : 0;
+  return ofThisRun != 0 ? ofThisRun : chosenInterfaceScale();
+}
+
+int chosenInterfaceScale() {
   HostSession* session = HostSession::current();
   const auto* value = session ? session->optionVariables().find("interfaceScale") : nullptr;
   const int* scale = value ? std::get_if<int>(value) : nullptr;
-  const bool offered = scale && std::find(kScales.begin(), kScales.end(), *scale) != kScales.end();
-  return offered ? *scale : 100;
+  return scale && isInterfaceScale(*scale) ? *scale : 100;
+}
+
+void leaveWhenAskedToQuit(const HostSession& session) {
+  if (!session.quitRequested || QThread::currentThread()->loopLevel() == 0) return;
+  QMetaObject::invokeMethod(
+      qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+}
+
+KStatus runLine(std::string_view line) {
+  HostSession* session = HostSession::current();
+  ResultValue result;
+  return session ? session->runLine(line, result) : KStatus(StatusFailure);
 }
 
 }  // namespace vesk

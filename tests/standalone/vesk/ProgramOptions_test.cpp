@@ -143,5 +143,20 @@ TEST(ProgramHelp, FitsATerminal) {
   }
 }
 
+TEST(ProgramOptions, TakeAWindowAndItsScale) {
+  const ProgramOptions options = readWell({"--gui", "--scale", "150"});
+  EXPECT_TRUE(options.gui);
+  EXPECT_EQ(options.scale, "150");
+  EXPECT_FALSE(readWell({}).gui);
+}
+
+TEST(ProgramOptions, RefuseAScaleThatIsNotOfferedOrHasNoWindow) {
+  EXPECT_EQ(problemOf({"--scale", "150"}), "--scale goes with --gui");
+  for (const char* scale : {"110", "0150", "150.0", "big", "-100", "1e2", "100000000000000"}) {
+    EXPECT_EQ(problemOf({"--gui", "--scale", scale}),
+              std::string("--scale takes 100, 125, 150, 175 or 200, not ") + scale);
+  }
+}
+
 }  // namespace
 }  // namespace vesk

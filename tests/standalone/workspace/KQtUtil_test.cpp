@@ -6,27 +6,11 @@
 #include <QGridLayout>
 #include <QPointer>
 #include <QVBoxLayout>
-#include <memory>
 
 #include "standalone/workspace/Workspace.h"
 #include "tests/support/HostTest.h"
 
 namespace {
-
-/// The one application of the program, gone ahead of what the program's end takes down.
-class Application : public ::testing::Environment {
- public:
-  void SetUp() override { application_ = std::make_unique<QApplication>(argc_, argv_); }
-  void TearDown() override { application_.reset(); }
-
- private:
-  int argc_ = 1;
-  char name_[15] = "workspace_test";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<QApplication> application_;
-};
-
-const auto* const kApplication = ::testing::AddGlobalTestEnvironment(new Application);
 
 TEST(CurrentParent, IsNullWithoutAWindow) { EXPECT_EQ(KQtUtil::getCurrentParent(), nullptr); }
 

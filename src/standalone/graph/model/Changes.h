@@ -17,6 +17,7 @@ enum ChangeBits : unsigned char {
   kContentChange = 16,   ///< nodes or annotations of its level
   kIdentityChange = 32,  ///< its name, or what it comes from
   kWatchChange = 64,     ///< watch points of its ports
+  kPlaceChange = 128,    ///< it came into a level or left one
 };
 
 /// One node and what changed of it. For a change of a level, the node of the compound.
@@ -33,6 +34,10 @@ class ORV_EXPORT ChangeListener {
   /// Each node stands there once, in the order of its first change; also nodes that are no longer
   /// in the graph. What a listener changes in its turn is told afterwards.
   virtual void graphChanged(ContainerObject& container, std::span<const NodeChange> changes) = 0;
+
+  /// The graph is about to go; its nodes that are still held are in no graph then. A listener may
+  /// remove itself or others here.
+  virtual void graphGoes(ContainerObject& container);
 };
 
 }  // namespace orvlib

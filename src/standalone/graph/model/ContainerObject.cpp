@@ -17,9 +17,17 @@ ContainerObject::ContainerObject(std::string runtime)
 }
 
 ContainerObject::~ContainerObject() {
+  tellOfTheEnd();
   ContainerTable::leave(*this);
   withdrawUuid();
   core_->container_ = nullptr;
+}
+
+void ContainerObject::tellOfTheEnd() {
+  settling_ = true;
+  for (std::size_t i = 0; i < listeners_.size(); ++i) {
+    if (listeners_[i]) listeners_[i]->graphGoes(*this);
+  }
 }
 
 void ContainerObject::publishUuid(const std::string& uuid) {

@@ -82,6 +82,7 @@ class ORV_EXPORT ContainerObject final : public ORV_v1::Container, public ORV_v1
   void endBracket(Client& client);
   void release();
   void settle();
+  void tellOfTheEnd();
   void forget(NodeObject& node);
 
   /// Notes a change of a node that is in the graph.

@@ -10,6 +10,8 @@ using ORV_v1::GraphAccess;
 
 ChangeListener::~ChangeListener() = default;
 
+void ChangeListener::graphGoes(ContainerObject&) {}
+
 GraphCore::GraphCore(ContainerObject& container, std::string runtimeName)
     : container_(&container), vocabulary_{std::move(runtimeName)} {}
 

@@ -71,7 +71,10 @@ void Mutator::insertNode(CompoundObject& level, NodeObject& node, unsigned int i
   node.parent_ = &level;
   if (node.compound_) level.raiseHeight(node.compound_->heightBound_);
   touch(level.node_, kContentChange);
-  if (ContainerObject* container = node.container()) container->nodesEntered();
+  if (ContainerObject* container = node.container()) {
+    container->touch(node, kPlaceChange);
+    container->nodesEntered();
+  }
 }
 
 unsigned int Mutator::removeNode(NodeObject& node) {
@@ -80,9 +83,10 @@ unsigned int Mutator::removeNode(NodeObject& node) {
   const NodeRef kept(&node);
   // What it takes out of a part that is out of the graph already is no longer kept with that part.
   if (!container) node.core().watches().bringBack(node);
+  touch(level.node_, kContentChange);
+  if (container) container->touch(node, kPlaceChange);
   node.parent_ = nullptr;
   const unsigned int index = level.nodes_.remove(&node);
-  touch(level.node_, kContentChange);
   if (container) container->nodesLeft();
   return index;
 }

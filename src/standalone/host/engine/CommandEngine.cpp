@@ -65,7 +65,10 @@ KStatus CommandEngine::run(std::string_view text, ResultValue& result, RunOption
     if (ownSteps) undoQueue.endStatement(statement.source);
     if (!status) break;
   }
-  if (outermost) session_.journal().write(text, options, status);
+  if (outermost) {
+    session_.journal().write(text, options, status);
+    lineEnded_.tell({text, result, status, options.display});
+  }
   return status;
 }
 

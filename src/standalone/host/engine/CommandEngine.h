@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/OpenVesk/KStatus.h"
+#include "standalone/host/engine/Observers.h"
 #include "standalone/host/engine/ResultValue.h"
 #include "standalone/host/engine/RunOptions.h"
 #include "standalone/host/language/Tokenizer.h"
@@ -14,6 +15,14 @@ class HostSession;
 class Plugin;
 struct CommandEntry;
 
+/// A line that no other command ran, when it is done.
+struct FinishedLine {
+  std::string_view text;
+  const ResultValue& result;
+  KStatus status;
+  bool display;  ///< it was echoed
+};
+
 /// Runs lines: reads them, finds each command, lets it work, and hands its object to the undo
 /// queue.
 class CommandEngine {
@@ -23,6 +32,9 @@ class CommandEngine {
   /// Runs a text of the command language. It is read whole before anything of it runs. Stops at the
   /// first statement that fails and returns its status; `result` is that of the last one that ran.
   KStatus run(std::string_view text, ResultValue& result, RunOptions options = {});
+
+  /// Who hears of each line that no other command ran.
+  Observers<FinishedLine>& lineEnded() { return lineEnded_; }
 
   /// Whether a command is running.
   bool isRunning() const { return !frames_.empty(); }
@@ -65,6 +77,7 @@ class CommandEngine {
 
   HostSession& session_;
   std::vector<Frame> frames_;
+  Observers<FinishedLine> lineEnded_;
 };
 
 }  // namespace vesk

@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "standalone/host/engine/Observers.h"
+
 namespace vesk {
 
 /// Lines that wait until the host is idle.
@@ -14,7 +16,14 @@ class IdleQueue {
     bool display;
   };
 
-  void add(Line line) { lines_.push_back(std::move(line)); }
+  void add(Line line) {
+    lines_.push_back(std::move(line));
+    added_.tell();
+  }
+
+  /// Who hears of each line that is put here.
+  Observers<>& added() { return added_; }
+
   bool isEmpty() const { return lines_.empty(); }
 
   /// The oldest line; there must be one.
@@ -26,6 +35,7 @@ class IdleQueue {
 
  private:
   std::deque<Line> lines_;
+  Observers<> added_;
 };
 
 }  // namespace vesk

@@ -102,6 +102,7 @@ KStatus PluginLoader::callEntryPoint(const std::shared_ptr<Plugin>& plugin, cons
 }
 
 void PluginLoader::removeLeftovers(const std::shared_ptr<Plugin>& plugin) {
+  if (holder_) holder_->letGo(*plugin);
   session_.undoQueue().removeCommandsOf(plugin.get());
   session_.registry().removeAllOf(plugin.get());
   session_.sceneEvents().removeThoseIn(plugin->base());
@@ -130,7 +131,8 @@ std::string PluginLoader::reasonToKeep(const Plugin& plugin) const {
   if (session_.engine().isRunningCommandOf(&plugin)) return "one of its commands is running";
   if (session_.sceneEvents().isSending()) return "scene callbacks are running";
   const UndoQueue& queue = session_.undoQueue();
-  return queue.isUndoing() || queue.isRedoing() ? "an undo or redo is running" : "";
+  if (queue.isUndoing() || queue.isRedoing()) return "an undo or redo is running";
+  return holder_ ? holder_->reasonToKeep(plugin) : "";
 }
 
 KStatus PluginLoader::unload(std::string_view name) {

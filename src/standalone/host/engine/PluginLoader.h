@@ -39,6 +39,18 @@ class Plugin : public HostObject {
   void* library_;
 };
 
+/// Someone who may hold what a module made and the host knows nothing of, such as widgets.
+class PluginHolder {
+ public:
+  virtual ~PluginHolder() = default;
+
+  /// Why the module must stay for now; empty when it may go.
+  virtual std::string reasonToKeep(const Plugin& plugin) = 0;
+
+  /// The module has been uninitialised, and its code goes next.
+  virtual void letGo(const Plugin& plugin) = 0;
+};
+
 /// Loads and unloads modules. Refusals are shown as errors that name the file and the reason.
 class PluginLoader {
  public:
@@ -56,6 +68,9 @@ class PluginLoader {
   /// In reverse order of loading. What cannot be unloaded just now stays.
   void unloadAll();
 
+  /// Asked and told before a module goes; null for nobody.
+  void setHolder(PluginHolder* holder) { holder_ = holder; }
+
   /// Null for a name that is not loaded.
   std::shared_ptr<Plugin> find(std::string_view name) const;
   const std::vector<std::shared_ptr<Plugin>>& plugins() const { return plugins_; }
@@ -69,6 +84,7 @@ class PluginLoader {
   KStatus refuse(const std::string& path, std::string_view reason) const;
 
   HostSession& session_;
+  PluginHolder* holder_ = nullptr;
   std::vector<std::shared_ptr<Plugin>> plugins_;
 };
 

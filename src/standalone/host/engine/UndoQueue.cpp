@@ -62,6 +62,7 @@ void UndoQueue::push(UndoStep step) {
   if (!step.commands.empty()) forgetUndone();
   done_.push_back(std::move(step));
   trim();
+  changed_.tell();
 }
 
 void UndoQueue::trim() {
@@ -76,6 +77,7 @@ void UndoQueue::forgetUndone() {
 void UndoQueue::setLimit(std::size_t limit) {
   limit_ = limit;
   trim();
+  changed_.tell();
 }
 
 bool UndoQueue::mayRun(std::string_view what, const std::deque<UndoStep>& from) {
@@ -112,6 +114,7 @@ bool UndoQueue::carry(std::deque<UndoStep>& from, std::deque<UndoStep>& to, Runn
     to.push_back(std::move(step));
     trim();
   }
+  changed_.tell();
   return worked;
 }
 
@@ -144,6 +147,11 @@ bool UndoQueue::closeChunk() {
   return true;
 }
 
+const std::string& UndoQueue::stepName(std::size_t index) const {
+  return index < done_.size() ? done_[index].name
+                              : undone_[undone_.size() - 1 - (index - done_.size())].name;
+}
+
 std::vector<std::string> UndoQueue::doneNames() const {
   return namesOf(done_.begin(), done_.end());
 }
@@ -160,6 +168,7 @@ void UndoQueue::clear() {
   chunk_ = {};
   chunks_.clear();
   for (; !done_.empty(); done_.pop_back()) forget(done_.back().commands);
+  changed_.tell();
 }
 
 void UndoQueue::removeCommandsOf(const Plugin* owner) {
@@ -171,6 +180,7 @@ void UndoQueue::removeCommandsOf(const Plugin* owner) {
     if (!forgetThoseOf(owner, done_.back().commands)) kept.push_front(std::move(done_.back()));
   }
   done_ = std::move(kept);
+  changed_.tell();
 }
 
 }  // namespace vesk

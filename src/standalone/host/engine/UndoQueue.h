@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/OpenVesk/KPxCommand.h"
+#include "standalone/host/engine/Observers.h"
 
 namespace vesk {
 
@@ -67,6 +68,14 @@ class UndoQueue {
   std::string undoName() const { return done_.empty() ? "" : done_.back().name; }
   std::string redoName() const { return undone_.empty() ? "" : undone_.back().name; }
 
+  /// The steps in a row: those done, oldest first, then those undone, the next to redo first.
+  std::size_t doneCount() const { return done_.size(); }
+  std::size_t stepCount() const { return done_.size() + undone_.size(); }
+  const std::string& stepName(std::size_t index) const;
+
+  /// Who hears that steps have come, gone or changed sides.
+  Observers<>& changed() { return changed_; }
+
   /// Oldest first, and the next to redo first.
   std::vector<std::string> doneNames() const;
   std::vector<std::string> undoneNames() const;
@@ -88,6 +97,7 @@ class UndoQueue {
   void forgetUndone();
 
   MessageChannel& messages_;
+  Observers<> changed_;
   std::deque<UndoStep> done_;
   std::deque<UndoStep> undone_;
   std::vector<std::unique_ptr<KPxCommand>> pending_;  ///< of the statement that runs

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <utility>
 
 #include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/engine/Messages.h"
@@ -63,6 +64,7 @@ bool Scene::insert(const SceneNodePtr& node) {
   node->scene_ = this;
   modified_ = true;
   if (NodePayload* payload = node->payload()) payload->enteredScene(*node);
+  changed_.tell();
   return true;
 }
 
@@ -76,6 +78,7 @@ bool Scene::remove(const SceneNodePtr& node) {
   kept->scene_ = nullptr;
   modified_ = true;
   if (NodePayload* payload = kept->payload()) payload->leftScene(*kept);
+  changed_.tell();
   return true;
 }
 
@@ -101,6 +104,11 @@ void Scene::replaceName(const SceneNodePtr& node, const std::string& name) {
   names_.add(node);
   modified_ = true;
   if (NodePayload* payload = node->payload()) payload->renamed(*node);
+  changed_.tell();
+}
+
+void Scene::setModified(bool modified) {
+  if (std::exchange(modified_, modified) != modified) changed_.tell();
 }
 
 void Scene::clear() {
@@ -126,6 +134,7 @@ KStatus Scene::startNew() {
   clear();
   path_.clear();
   modified_ = false;
+  changed_.tell();
   events_.send(SceneEvent::AfterNew);
   return StatusSuccess;
 }
@@ -142,6 +151,7 @@ KStatus Scene::open(const std::string& path) {
   for (const SceneNodePtr& node : scene.nodes) insert(node);
   path_ = file;
   modified_ = false;
+  changed_.tell();
   for (const std::string& warning : scene.warnings)
     messages_.warning(vesk::quoted(file) + ": " + warning);
   events_.send(SceneEvent::AfterOpen);
@@ -157,6 +167,7 @@ KStatus Scene::save(const std::string& path) {
   if (!problem.empty()) return refuse("save", file, problem);
   path_ = file;
   modified_ = false;
+  changed_.tell();
   events_.send(SceneEvent::AfterSave);
   return StatusSuccess;
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/OpenVesk/KStatus.h"
+#include "standalone/host/engine/Observers.h"
 #include "standalone/host/scene/NodeNames.h"
 #include "standalone/host/scene/NodeTypes.h"
 #include "standalone/host/scene/SceneNode.h"
@@ -63,7 +64,11 @@ class Scene {
 
   /// Whether there is something that the file lacks. Undo is a change too; the selection is not.
   bool isModified() const { return modified_; }
-  void setModified(bool modified) { modified_ = modified; }
+  void setModified(bool modified);
+
+  /// Who hears that nodes have come or gone or have another name, and of another path or state of
+  /// the scene as a whole. The selection has observers of its own.
+  Observers<>& changed() { return changed_; }
 
   /// Absolute; empty for a scene without a file.
   const std::string& path() const { return path_; }
@@ -93,6 +98,7 @@ class Scene {
   Selection selection_;
   std::uint64_t nextPlace_ = 1;
   std::string path_;
+  Observers<> changed_;
   bool modified_ = false;
   bool busy_ = false;  ///< a new, open or save is under way
 };

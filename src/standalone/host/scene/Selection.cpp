@@ -17,6 +17,7 @@ Selection::Place Selection::add(const SceneNodePtr& node) {
 void Selection::restore(const SceneNodePtr& node, Place place) {
   order_.emplace(place, node);
   places_.emplace(node.get(), place);
+  changed_.tell();
 }
 
 std::optional<Selection::Place> Selection::remove(const SceneNode& node) {
@@ -25,6 +26,7 @@ std::optional<Selection::Place> Selection::remove(const SceneNode& node) {
   const Place place = found->second;
   places_.erase(found);
   order_.erase(place);
+  changed_.tell();
   return place;
 }
 

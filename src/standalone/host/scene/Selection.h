@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "standalone/host/engine/Observers.h"
 #include "standalone/host/scene/SceneNode.h"
 
 namespace vesk {
@@ -20,6 +21,9 @@ class Selection {
   std::size_t size() const { return order_.size(); }
   std::vector<SceneNodePtr> nodes() const;
 
+  /// Who hears of each change.
+  Observers<>& changed() { return changed_; }
+
   /// Adds a node behind all others and returns its place. It must not be selected.
   Place add(const SceneNodePtr& node);
 
@@ -33,6 +37,7 @@ class Selection {
   std::map<Place, SceneNodePtr> order_;
   std::unordered_map<const SceneNode*, Place> places_;
   Place next_ = 1;
+  Observers<> changed_;
 };
 
 }  // namespace vesk

@@ -243,6 +243,7 @@ TEST_F(EvaluatorWatchPoints, AWatchPointOfANodeThatIsGoneIsOnNoPort) {
   const WatchPointRef watched(watch(sum_->port("result")));
   set(sum_->port("a"), 1);
   {
+    const ChangeHold hold(graph_);
     Transaction edits;
     ASSERT_TRUE(runRemoveNode(edits, *sum_));
     edits_ = Transaction();

@@ -2,6 +2,7 @@
 
 #include "platform/ORV_1_0/ChangeBracket.h"
 #include "standalone/graph/model/ChangeHold.h"
+#include "standalone/graph/model/Mutator.h"
 #include "tests/standalone/graph/GraphFixture.h"
 
 namespace orvlib {
@@ -68,15 +69,50 @@ TEST_F(ContainerObjectTest, TellsOfEachChangeWithoutABracket) {
 TEST_F(ContainerObjectTest, TellsOnceAtTheEndOfTheOutermostBracket) {
   ASSERT_TRUE(graph_.openChangeBracket(nullptr));
   ASSERT_TRUE(graph_.openChangeBracket(&top()));
-  addHeld("one");
-  addHeld("two");
+  NodeObject* one = addHeld("one");
+  NodeObject* two = addHeld("two");
   EXPECT_TRUE(graph_.closeChangeBracket(&top()));
   EXPECT_TRUE(listener_.rounds.empty());
   EXPECT_TRUE(graph_.closeChangeBracket(nullptr));
   ASSERT_EQ(listener_.rounds.size(), 1u);
-  ASSERT_EQ(listener_.rounds[0].size(), 1u);
+  ASSERT_EQ(listener_.rounds[0].size(), 3u);
   EXPECT_EQ(listener_.rounds[0][0].node.get(), &graph_.top());
   EXPECT_EQ(listener_.rounds[0][0].bits, kContentChange);
+  EXPECT_EQ(listener_.rounds[0][1].node.get(), one);
+  EXPECT_EQ(listener_.rounds[0][2].node.get(), two);
+}
+
+TEST_F(ContainerObjectTest, NamesTheNodesThatCameAndWent) {
+  NodeObject* node = addHeld("one");
+  EXPECT_EQ(listener_.rounds[0][1].node.get(), node);
+  EXPECT_EQ(listener_.rounds[0][1].bits, kPlaceChange);
+  const NodeRef kept(node);
+  {
+    const ChangeHold hold(graph_);
+    Mutator::removeNode(*node);
+  }
+  ASSERT_EQ(listener_.rounds[1].size(), 2u);
+  EXPECT_EQ(listener_.rounds[1][1].node.get(), node);
+  EXPECT_EQ(listener_.rounds[1][1].bits, kPlaceChange);
+}
+
+TEST_F(ContainerObjectTest, TellsThoseWhoStillListenThatItGoes) {
+  struct : ChangeListener {
+    void graphChanged(ContainerObject&, std::span<const NodeChange>) override {}
+    void graphGoes(ContainerObject& container) override {
+      EXPECT_EQ(container.top().container(), &container);
+      ++gone;
+    }
+    int gone = 0;
+  } stays, leaves;
+  {
+    ContainerObject other("standard");
+    other.addListener(stays);
+    other.addListener(leaves);
+    other.removeListener(leaves);
+  }
+  EXPECT_EQ(stays.gone, 1);
+  EXPECT_EQ(leaves.gone, 0);
 }
 
 TEST_F(ContainerObjectTest, TellsNothingWhenNothingChanged) {
@@ -244,6 +280,34 @@ TEST_F(ContainerObjectTest, HasAnotherRevisionAfterAChange) {
   const auto before = graph_.revision();
   addHeld("one");
   EXPECT_NE(graph_.revision(), before);
+}
+
+/// Leaves the graph when that goes, and another with it.
+class LeavingListener final : public ChangeListener {
+ public:
+  void graphChanged(ContainerObject&, std::span<const NodeChange>) override {}
+  void graphGoes(ContainerObject& container) override {
+    ++told;
+    container.removeListener(*this);
+    if (other) container.removeListener(*other);
+  }
+
+  int told = 0;
+  LeavingListener* other = nullptr;
+};
+
+TEST_F(ContainerObjectTest, TellsThatItGoes) {
+  LeavingListener first;
+  LeavingListener second;
+  LeavingListener third;
+  first.other = &second;
+  {
+    ContainerObject other("standard");
+    for (LeavingListener* listener : {&first, &second, &third}) other.addListener(*listener);
+  }
+  EXPECT_EQ(first.told, 1);
+  EXPECT_EQ(second.told, 0);
+  EXPECT_EQ(third.told, 1);
 }
 
 TEST_F(ContainerObjectTest, FindsPortTypesOfItsRuntime) {

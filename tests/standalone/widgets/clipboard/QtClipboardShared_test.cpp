@@ -3,48 +3,17 @@
 #include <gmock/gmock.h>
 
 #include <QProcess>
-#include <QStandardPaths>
 #include <memory>
 
 #include "standalone/widgets/clipboard/QtClipboard.h"
+#include "tests/support/HiddenDisplay.h"
 
 namespace {
 
 using testing::HasSubstr;
 
 constexpr const char* kPeer = VESK_BUILD_DIR "/bin/clipboardPeer";
-constexpr int kPatience = 30000;
-
-/// A display without a screen that anyone sees.
-class HiddenDisplay {
- public:
-  HiddenDisplay() {
-    server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp"});
-    while (!server_.canReadLine()) {
-      if (!server_.waitForReadyRead(kPatience)) {
-        ADD_FAILURE() << "Xvfb does not start: " << server_.errorString().toStdString();
-        return;
-      }
-    }
-    name_ = ":" + QString::fromUtf8(server_.readLine()).trimmed();
-  }
-  ~HiddenDisplay() {
-    server_.terminate();
-    if (!server_.waitForFinished(kPatience)) server_.kill();
-    server_.waitForFinished(kPatience);
-  }
-
-  QProcessEnvironment environment() const {
-    QProcessEnvironment result = QProcessEnvironment::systemEnvironment();
-    result.insert("DISPLAY", name_);
-    result.insert("QT_QPA_PLATFORM", "xcb");
-    return result;
-  }
-
- private:
-  QProcess server_;
-  QString name_;
-};
+constexpr int kPatience = HiddenDisplay::kPatience;
 
 /// A program that keeps something on the clipboard while it lives.
 class Owner {

@@ -1,3 +1,5 @@
+// Linked into a test program that makes widgets.
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -6,18 +8,21 @@
 namespace {
 
 /// The one application of the program, gone ahead of what the program's end takes down.
-class Application : public ::testing::Environment {
+class Application : public testing::Environment {
  public:
-  void SetUp() override { application_ = std::make_unique<QApplication>(argc_, argv_); }
+  void SetUp() override {
+    application_ = std::make_unique<QApplication>(argc_, argv_);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+  }
   void TearDown() override { application_.reset(); }
 
  private:
   int argc_ = 1;
-  char name_[13] = "widgets_test";
+  char name_[5] = "test";
   char* argv_[2] = {name_, nullptr};
   std::unique_ptr<QApplication> application_;
 };
 
-const auto* const kApplication = ::testing::AddGlobalTestEnvironment(new Application);
+const auto* const kApplication = testing::AddGlobalTestEnvironment(new Application);
 
 }  // namespace

@@ -1,0 +1,3 @@
+#include "plugin/pluginName.h"
+
+KString pluginName;

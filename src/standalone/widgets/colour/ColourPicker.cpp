@@ -1,0 +1,297 @@
+#include "standalone/widgets/colour/ColourPicker.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QToolButton>
+#include <algorithm>
+#include <cmath>
+
+#include "standalone/widgets/colour/ColourField.h"
+#include "standalone/widgets/colour/ColourPalette.h"
+#include "standalone/widgets/colour/ColourRegistry.h"
+#include "standalone/widgets/colour/ColourSlider.h"
+#include "standalone/widgets/colour/ColourSwatch.h"
+#include "standalone/widgets/colour/ManagedColour.h"
+#include "standalone/widgets/preferences/Preferences.h"
+
+namespace orvuilib {
+namespace {
+
+using orvUI_v1::HIGColor;
+
+const QString kSection = QStringLiteral("colorPicker");
+const QString kSquare = QStringLiteral("square");
+
+constexpr const char* kLabels[] = {"R", "G", "B", "H", "S", "V", "A"};
+constexpr const char* kTips[] = {"Red", "Green", "Blue", "Hue", "Saturation", "Value", "Alpha"};
+enum Component { kRed, kGreen, kBlue, kHue, kSaturation, kValue, kAlpha, kComponents };
+
+bool hasUnitRange(int component) {
+  return component == kHue || component == kSaturation || component == kAlpha;
+}
+
+}  // namespace
+
+ColourPicker::ColourPicker(QWidget* parent)
+    : QWidget(parent),
+      field_(new ColourField),
+      before_(new ColourSwatch),
+      now_(new ColourSwatch),
+      code_(new QLineEdit),
+      dropper_(new QToolButton),
+      space_(new QComboBox),
+      view_(new QComboBox),
+      managed_(new QCheckBox(tr("Colour management"))),
+      note_(new QLabel) {
+  auto* grid = new QGridLayout(this);
+  grid->setColumnStretch(1, 1);
+  grid->addWidget(field_, 0, 0, 1, 3);
+  buildRows(*grid, 1);
+  buildTools(*grid, 1 + kComponents);
+  buildSpaces(*grid);
+  connect(field_, &ColourField::moved, this,
+          [this](const Hsv& hsv) { hsv_ = hsv, mix(fromHsv(hsv, mixing_.a)); });
+  connect(field_, &ColourField::finished, this, &ColourPicker::finish);
+  connect(&ColourRegistry::instance(), &ColourRegistry::changed, this,
+          &ColourPicker::followManagement);
+  setColour(colour_);
+}
+
+ColourPicker::Row ColourPicker::makeRow(int index) {
+  auto* slider = new ColourSlider;
+  auto* number = new QDoubleSpinBox;
+  number->setDecimals(4);
+  number->setSingleStep(0.01);
+  number->setRange(hasUnitRange(index) ? 0.0 : -1e6, hasUnitRange(index) ? 1.0 : 1e6);
+  number->setKeyboardTracking(false);
+  number->setToolTip(tr(kTips[index]));
+  slider->setToolTip(tr(kTips[index]));
+  connect(slider, &ColourSlider::moved, this, [this, index](float position) {
+    const float range = rangeOf(index);
+    mix(withComponent(index, hasUnitRange(index) ? position : fromSliderPosition(position, range)));
+  });
+  connect(slider, &ColourSlider::finished, this, &ColourPicker::finish);
+  connect(number, &QDoubleSpinBox::valueChanged, this, [this, index](double value) {
+    if (showing_) return;
+    mix(withComponent(index, static_cast<float>(value)));
+    finish();
+  });
+  return {index, slider, number};
+}
+
+void ColourPicker::buildRows(QGridLayout& grid, int firstRow) {
+  for (int index = 0; index < kComponents; ++index) {
+    rows_.push_back(makeRow(index));
+    grid.addWidget(new QLabel(QString::fromLatin1(kLabels[index])), firstRow + index, 0);
+    grid.addWidget(rows_.back().slider, firstRow + index, 1);
+    grid.addWidget(rows_.back().number, firstRow + index, 2);
+  }
+}
+
+void ColourPicker::buildTools(QGridLayout& grid, int row) {
+  auto* line = new QHBoxLayout;
+  code_->setObjectName(QStringLiteral("colourCode"));
+  dropper_->setObjectName(QStringLiteral("eyeDropper"));
+  before_->setToolTip(tr("The colour before; click to go back to it"));
+  now_->setToolTip(tr("The colour now; click to keep it in the palette"));
+  code_->setToolTip(tr("The colour on the screen, as #rrggbb"));
+  code_->setMaximumWidth(code_->fontMetrics().horizontalAdvance(QStringLiteral("#00000000")) + 16);
+  dropper_->setText(tr("Pick"));
+  dropper_->setToolTip(tr("Pick a colour from the screen"));
+  line->addWidget(before_, 1);
+  line->addWidget(now_, 1);
+  line->addWidget(code_);
+  line->addWidget(makeShapeButton());
+  line->addWidget(dropper_);
+  grid.addLayout(line, row, 0, 1, 3);
+  auto* palette = new ColourPalette;
+  grid.addWidget(palette, row + 1, 0, 1, 3);
+  connect(palette, &ColourPalette::chosen, this, &ColourPicker::choose);
+  connect(before_, &ColourSwatch::clicked, this, [this] { choose(before_->colour()); });
+  connect(now_, &ColourSwatch::clicked, this, [this] { ColourPalette::keep(colour_); });
+  connect(code_, &QLineEdit::editingFinished, this, &ColourPicker::takeCode);
+  connect(dropper_, &QToolButton::clicked, this, &ColourPicker::pickFromScreen);
+}
+
+/// The shape is a preference.
+QToolButton* ColourPicker::makeShapeButton() {
+  auto* button = new QToolButton;
+  button->setText(tr("Square"));
+  button->setToolTip(tr("A strip of hues in place of the wheel"));
+  button->setCheckable(true);
+  button->setObjectName(QStringLiteral("shape"));
+  const auto showShape = [this](bool square) {
+    field_->setShape(square ? ColourField::kSquare : ColourField::kWheel);
+  };
+  connect(button, &QToolButton::toggled, this, showShape);
+  button->setChecked(Preferences::instance().section(kSection).value(kSquare).toBool());
+  connect(button, &QToolButton::clicked, this, [](bool square) {
+    QJsonObject section = Preferences::instance().section(kSection);
+    section.remove(kSquare);
+    if (square) section.insert(kSquare, true);
+    Preferences::instance().setSection(kSection, section);
+  });
+  return button;
+}
+
+void ColourPicker::buildSpaces(QGridLayout& grid) {
+  const int row = grid.rowCount();
+  grid.addWidget(managed_, row, 0, 1, 3);
+  auto* line = new QHBoxLayout;
+  space_->setObjectName(QStringLiteral("mixingSpace"));
+  view_->setObjectName(QStringLiteral("viewSpace"));
+  note_->setObjectName(QStringLiteral("note"));
+  space_->setToolTip(tr("Mixing space"));
+  view_->setToolTip(tr("View"));
+  line->addWidget(space_, 1);
+  line->addWidget(view_, 1);
+  grid.addLayout(line, row + 1, 0, 1, 3);
+  note_->setWordWrap(true);
+  note_->hide();
+  grid.addWidget(note_, row + 2, 0, 1, 3);
+  connect(managed_, &QCheckBox::clicked, this, [](bool on) {
+    auto* management = ColourRegistry::instance().handler();
+    if (!management) return;
+    management->setEnabled(on);
+    management->saveUserPrefs();
+  });
+  connect(space_, &QComboBox::textActivated, this, &ColourPicker::chooseSpace);
+  connect(view_, &QComboBox::textActivated, this, &ColourPicker::chooseView);
+}
+
+void ColourPicker::setColour(const HIGColor& colour) {
+  before_->setColour(colour);
+  showColour(colour);
+  showSpaces();
+}
+
+void ColourPicker::showColour(const HIGColor& colour) {
+  colour_ = colour;
+  mixing_ = toMixing(colour);
+  hsv_ = toHsv(mixing_, hsv_);
+  mix(mixing_);
+}
+
+float ColourPicker::component(int index) const {
+  const float components[] = {mixing_.r, mixing_.g, mixing_.b, hsv_.h, hsv_.s, hsv_.v, mixing_.a};
+  return components[index];
+}
+
+HIGColor ColourPicker::withComponent(int index, float value) const {
+  HIGColor colour = mixing_;
+  Hsv hsv = hsv_;
+  float* const components[] = {&colour.r, &colour.g, &colour.b, &hsv.h, &hsv.s, &hsv.v, &colour.a};
+  *components[index] = value;
+  const bool ofHsv = index >= kHue && index <= kValue;
+  return ofHsv ? fromHsv(hsv, colour.a) : colour;
+}
+
+/// A colour brighter than white stays on its sliders.
+float ColourPicker::rangeOf(int index) const {
+  const float largest = std::max({1.0f, mixing_.r, mixing_.g, mixing_.b});
+  return hasUnitRange(index) || !std::isfinite(largest) ? 1.0f : largest;
+}
+
+void ColourPicker::showRow(const Row& row) {
+  const int index = row.component;
+  const float range = rangeOf(index);
+  const float value = component(index);
+  const bool unit = hasUnitRange(index);
+  row.slider->setPosition(unit ? value : toSliderPosition(value, range));
+  row.slider->setColours([this, index, range, unit](float position) {
+    HIGColor colour = withComponent(index, unit ? position : fromSliderPosition(position, range));
+    return fromMixing(colour);
+  });
+  row.number->setValue(std::isnan(value) ? 0.0 : static_cast<double>(value));
+}
+
+/// A hue that the user moves stays, also where the colour has none.
+void ColourPicker::mix(const HIGColor& mixing) {
+  const bool moved = !(mixing == mixing_);
+  mixing_ = mixing;
+  hsv_ = toHsv(mixing_, hsv_);
+  if (moved) colour_ = fromMixing(mixing);
+  const QScopedValueRollback guard(showing_, true);
+  field_->setHsv(hsv_);
+  for (const Row& row : rows_) showRow(row);
+  now_->setColour(colour_);
+  const QColor screen = toScreen(colour_);
+  code_->setText(screen.name(screen.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb));
+  if (moved) emit changing(colour_);
+}
+
+void ColourPicker::finish() { emit changed(colour_); }
+
+void ColourPicker::choose(const HIGColor& colour) {
+  showColour(colour);
+  emit changing(colour_);
+  finish();
+}
+
+void ColourPicker::followManagement() {
+  showColour(colour_);
+  showSpaces();
+}
+
+void ColourPicker::showSpaces() {
+  auto* management = ColourRegistry::instance().handler();
+  const bool there = management && management->isColorManagementAvailable();
+  const bool on = there && management->enabled();
+  managed_->setEnabled(there);
+  managed_->setChecked(on);
+  dropper_->setEnabled(ColourRegistry::instance().eyeDropper());
+  for (QComboBox* box : {space_, view_}) {
+    box->clear();
+    box->setEnabled(false);
+  }
+  if (!on) return;
+  space_->addItems(management->getMixingSpaceNames());
+  space_->setCurrentText(management->mixingSpace());
+  view_->addItems(management->getViewSpaceNames());
+  view_->setCurrentText(management->viewSpace());
+  for (QComboBox* box : {space_, view_}) box->setEnabled(box->count() > 0);
+}
+
+void ColourPicker::chooseSpace(const QString& name) {
+  auto* management = ColourRegistry::instance().handler();
+  if (!management || name == management->mixingSpace()) return;
+  const bool taken = management->setMixingSpace(name);
+  tell(taken ? QString() : tr("%1 cannot be used").arg(name));
+  if (taken) management->saveUserPrefs();
+  showSpaces();
+}
+
+void ColourPicker::chooseView(const QString& name) {
+  auto* management = ColourRegistry::instance().handler();
+  if (!management || name == management->viewSpace()) return;
+  const bool taken = management->setViewSpace(name);
+  tell(taken ? QString() : tr("%1 cannot be used").arg(name));
+  if (taken) management->saveUserPrefs();
+  showSpaces();
+}
+
+void ColourPicker::tell(const QString& text) {
+  note_->setText(text);
+  note_->setVisible(!text.isEmpty());
+}
+
+/// A cancelled pick may leave anything behind.
+void ColourPicker::pickFromScreen() {
+  const auto pick = ColourRegistry::instance().eyeDropper();
+  HIGColor picked;
+  if (pick && pick(&picked)) choose({picked.r, picked.g, picked.b, colour_.a});
+}
+
+void ColourPicker::takeCode() {
+  const QColor screen(code_->text().trimmed());
+  if (!code_->isModified()) return;
+  if (screen.isValid()) return choose(fromScreen(screen));
+  showColour(colour_);
+}
+
+}  // namespace orvuilib

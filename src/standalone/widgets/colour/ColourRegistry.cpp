@@ -1,0 +1,23 @@
+#include "standalone/widgets/colour/ColourRegistry.h"
+
+namespace orvuilib {
+
+using orvUI_v1::ColorManagementHandler;
+
+/// Never destroyed: a module's handler may go after everything else of the program.
+ColourRegistry& ColourRegistry::instance() {
+  static ColourRegistry& only = *new ColourRegistry;
+  return only;
+}
+
+void ColourRegistry::setHandler(ColorManagementHandler* handler) {
+  if (handler == handler_) return;
+  handler_ = handler;
+  emit changed();
+}
+
+void ColourRegistry::forget(const ColorManagementHandler& handler) {
+  if (handler_ == &handler) setHandler(nullptr);
+}
+
+}  // namespace orvuilib

@@ -1,0 +1,291 @@
+#include "standalone/widgets/compound/CompoundEditorWidget.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "platform/ORV_1_0/AnnotationList.h"
+#include "platform/ORV_1_0/Host.h"
+#include "standalone/graph/model/ContainerObject.h"
+#include "standalone/widgets/hooks/HookRegistry.h"
+#include "standalone/widgets/look/Scale.h"
+#include "standalone/widgets/preferences/Preferences.h"
+#include "standalone/widgets/selection/SelectionModel.h"
+
+namespace orvuilib {
+
+using orvlib::NodeObject;
+using orvUI_v1::AppServicesHook;
+
+namespace {
+
+/// The preferences are what the program kept, from the first editor on.
+void loadPreferencesOnce() {
+  static bool loaded = false;
+  AppServicesHook* hook = HookRegistry::appServicesHook();
+  if (loaded || !hook) return;
+  loaded = true;
+  hook->syncUserPrefs(AppServicesHook::kLoadPrefs);
+}
+
+}  // namespace
+
+CompoundEditorWidget::CompoundEditorWidget(QWidget* parent)
+    : CompoundEditor(parent),
+      theme_(currentScale()),
+      breadcrumb_(new Breadcrumb(theme_, this)),
+      canvas_(new Canvas(scene_, preferences_, this)),
+      nodeMenu_(new NodeMenu(theme_, canvas_)),
+      findList_(new FindList(theme_, canvas_)),
+      inlineEditor_(new InlineEditor(theme_, canvas_)),
+      help_(new HelpOverlay(theme_, canvas_)),
+      bench_(new Workbench{scene_, *canvas_, session_, preferences_,
+                           [this](const edits::NodePlace& place) { openNodeMenu(place); }}),
+      interaction_(new Interaction(*bench_, *this)) {
+  loadPreferencesOnce();
+  readPreferences();
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(breadcrumb_);
+  layout->addWidget(canvas_, 1);
+  canvas_->setInput(interaction_.get());
+  setFocusProxy(canvas_);
+  connect(breadcrumb_, &Breadcrumb::back, this, [this] { perform(Action::Back); });
+  connect(breadcrumb_, &Breadcrumb::forward, this, [this] { perform(Action::Forward); });
+  connect(breadcrumb_, &Breadcrumb::levelChosen, this, [this](NodeObject* level) {
+    if (level->compound()) diveInto(*level);
+  });
+  connect(nodeMenu_, &NodeMenu::picked, this, &CompoundEditorWidget::addPicked);
+  connect(nodeMenu_, &NodeMenu::dismissed, canvas_, [this] { canvas_->setFocus(); });
+  connect(findList_, &FindList::found, this, [this](NodeObject* node) { reveal(*node); });
+  connect(findList_, &FindList::dismissed, canvas_, [this] { canvas_->setFocus(); });
+  connect(&Preferences::instance(), &Preferences::changed, this,
+          &CompoundEditorWidget::readPreferences);
+}
+
+/// The children go first: they look at what this owns.
+CompoundEditorWidget::~CompoundEditorWidget() {
+  listenTo(nullptr);
+  canvas_->setInput(nullptr);
+  Preferences::instance().disconnect(this);
+  delete canvas_;
+  delete breadcrumb_;
+}
+
+void CompoundEditorWidget::readPreferences() {
+  preferences_ = EditorPreferences::load();
+  canvas_->update();
+}
+
+void CompoundEditorWidget::setRuntimeNameHint(const char* name) {
+  if (ORV_v1::Host().getRuntimeByName(name)) runtimeHint_ = QString::fromUtf8(name);
+}
+
+ORV_v1::AddRefWrapper<ORV_v1::Compound> CompoundEditorWidget::currentCompound() const {
+  return ORV_v1::AddRefWrapper<ORV_v1::Compound>(scene_.level());
+}
+
+void CompoundEditorWidget::editCompound(const ORV_v1::AddRefWrapper<ORV_v1::Node>& topNode) {
+  auto* node = static_cast<NodeObject*>(topNode.get());
+  const bool shows = node && node->container() && node->compound();
+  keepView();
+  listenTo(shows ? node->container() : nullptr);
+  navigator_.open(shows ? node : nullptr);
+  showCurrentLevel();
+}
+
+bool CompoundEditorWidget::diveInCompound(const ORV_v1::AddRefWrapper<ORV_v1::Compound>& compound) {
+  const auto* level = static_cast<const orvlib::CompoundObject*>(compound.get());
+  NodeObject* node = level ? level->node() : nullptr;
+  if (!node || !container_ || node->container() != container_) return false;
+  diveInto(*node);
+  return true;
+}
+
+void CompoundEditorWidget::diveInto(NodeObject& node) {
+  keepView();
+  navigator_.go(node);
+  showCurrentLevel();
+}
+
+/// A key for the menu, the search or a field that is open goes there.
+void CompoundEditorWidget::sendKeyEvent(int key, QFlags<Qt::KeyboardModifier> modifiers) {
+  QWidget* target = canvas_;
+  if (nodeMenu_->isVisible()) target = &nodeMenu_->field();
+  if (findList_->isVisible()) target = &findList_->field();
+  if (inlineEditor_->isVisible()) target = inlineEditor_;
+  if (help_->isVisible()) target = help_;
+  const bool plain = !(modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+  const bool printable = plain && key >= Qt::Key_Space && key <= 0xff;
+  QChar typed(static_cast<char16_t>(printable ? key : 0));
+  if (!(modifiers & Qt::ShiftModifier)) typed = typed.toLower();
+  const QString text = printable ? QString(typed) : QString();
+  QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+  QCoreApplication::sendEvent(target, &press);
+  QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
+  QCoreApplication::sendEvent(target, &release);
+}
+
+bool CompoundEditorWidget::getSelectedNodes(ORV_v1::AddRefWrapper<ORV_v1::NodeList>& nodes) const {
+  if (!scene_.levelNode()) return false;
+  nodes = edits::selectedNodeList(scene_);
+  return true;
+}
+
+bool CompoundEditorWidget::getSelectedAnnotations(
+    ORV_v1::AddRefWrapper<ORV_v1::AnnotationList>& annotations) const {
+  if (!scene_.levelNode()) return false;
+  annotations = edits::selectedAnnotationList(scene_);
+  return true;
+}
+
+void CompoundEditorWidget::setSelectedNodes(const ORV_v1::AddRefWrapper<ORV_v1::NodeList>& nodes) {
+  scene_.clearSelection();
+  for (unsigned int i = 0; nodes && i < nodes->size(); ++i) {
+    BoxItem* box = scene_.find(EditSession::object((*nodes)[i]));
+    if (box) scene_.select(*box);
+  }
+  canvas_->update();
+  selectionMayHaveChanged();
+}
+
+void CompoundEditorWidget::listenTo(orvlib::ContainerObject* container) {
+  if (container == container_) return;
+  if (container_) container_->removeListener(*this);
+  container_ = container;
+  if (container_) container_->addListener(*this);
+}
+
+void CompoundEditorWidget::keepView() {
+  NodeObject* level = navigator_.current();
+  if (level) navigator_.viewOf(*level) = {canvas_->zoom(), canvas_->centre()};
+}
+
+void CompoundEditorWidget::closeOverlays() {
+  interaction_->cancel();
+  canvas_->setHovered(nullptr, nullptr);
+  inlineEditor_->cancel();
+  nodeMenu_->hide();
+}
+
+void CompoundEditorWidget::showCurrentLevel() {
+  closeOverlays();
+  NodeObject* level = navigator_.current();
+  if (!level) findList_->forget();
+  scene_.show(level);
+  canvas_->setNotice({});
+  breadcrumb_->display(
+      navigator_, container_ ? QString::fromStdString(container_->containerName()) : QString());
+  if (level) {
+    const Navigator::View& view = navigator_.viewOf(*level);
+    fitted_.reset();
+    if (view.zoom == 0) {
+      fitAll();
+    } else {
+      canvas_->setZoom(view.zoom, {});
+      canvas_->centreOn(view.centre);
+    }
+  }
+  canvas_->update();
+  selectionMayHaveChanged();
+}
+
+void CompoundEditorWidget::fitAll() {
+  fit(scene_.bounds());
+  fitted_->area.reset();
+}
+
+void CompoundEditorWidget::fit(const QRectF& area) {
+  canvas_->fit(area);
+  fitted_ = {area, canvas_->toScene(QPointF(0, 0)), canvas_->zoom()};
+}
+
+/// What was fitted into the view, and not moved since, is fitted into one of another size.
+void CompoundEditorWidget::fitAgain() {
+  if (!fitted_ || fitted_->zoom != canvas_->zoom()) return;
+  if (fitted_->corner != canvas_->toScene(QPointF(0, 0))) return;
+  if (fitted_->area) return fit(*fitted_->area);
+  fitAll();
+}
+
+void CompoundEditorWidget::resizeEvent(QResizeEvent* event) {
+  CompoundEditor::resizeEvent(event);
+  layout()->activate();
+  fitAgain();
+  if (help_->isVisible()) help_->setGeometry(canvas_->rect());
+}
+
+void CompoundEditorWidget::showEvent(QShowEvent* event) {
+  CompoundEditor::showEvent(event);
+  layout()->activate();
+  fitAgain();
+}
+
+void CompoundEditorWidget::graphChanged(orvlib::ContainerObject& container,
+                                        std::span<const orvlib::NodeChange> changes) {
+  // Another top: the graph was read anew.
+  if (&container.top() != navigator_.top()) {
+    navigator_.open(&container.top());
+    return showCurrentLevel();
+  }
+  if (navigator_.leaveWhatIsGone()) return showCurrentLevel();
+  interaction_->cancel();
+  canvas_->setHovered(nullptr, nullptr);
+  canvas_->repaintArea(scene_.follow(changes));
+  const bool renamed = std::ranges::any_of(changes, [](const orvlib::NodeChange& change) {
+    return change.bits & orvlib::kIdentityChange && change.node->compound();
+  });
+  if (renamed) {
+    breadcrumb_->display(navigator_, QString::fromStdString(container.containerName()));
+  }
+  selectionMayHaveChanged();
+}
+
+/// The graph takes its listeners along.
+void CompoundEditorWidget::graphGoes(orvlib::ContainerObject&) {
+  container_ = nullptr;
+  navigator_.open(nullptr);
+  showCurrentLevel();
+}
+
+void CompoundEditorWidget::selectionMayHaveChanged() {
+  if (scene_.selectionRound() == toldSelection_) return;
+  toldSelection_ = scene_.selectionRound();
+  SelectionModel::Nodes nodes;
+  nodes.reserve(scene_.selectedBoxes().size());
+  for (BoxItem* box : scene_.selectedBoxes()) nodes.push_back(EditSession::handle(*box->node));
+  SelectionModel::instance().select(nodes);
+}
+
+void CompoundEditorWidget::openNodeMenu(const edits::NodePlace& place) {
+  if (!bench_->canEdit()) return;
+  const QPoint point = canvas_->toWidget(place.position).toPoint();
+  nodeMenu_->offer(scene_.levelNode()->core(), place, point);
+}
+
+void CompoundEditorWidget::addPicked(const edits::NewNode& what) {
+  canvas_->setFocus();
+  const edits::NodePlace place = nodeMenu_->place();
+  if (!bench_->canEdit()) return;
+  const NodeObject* node = edits::addNode(session_, what, place);
+  BoxItem* box = node ? scene_.find(node) : nullptr;
+  if (!box) return;
+  scene_.clearSelection();
+  scene_.select(*box);
+  canvas_->update();
+  selectionMayHaveChanged();
+}
+
+void CompoundEditorWidget::reveal(NodeObject& node) {
+  if (!node.parent() || node.container() != container_ || !container_) return;
+  if (node.parent() != scene_.level()) diveInto(*node.parent()->node());
+  BoxItem* box = scene_.find(&node);
+  scene_.clearSelection();
+  scene_.select(*box);
+  if (canvas_->zoom() < 0.6) canvas_->setZoom(1, {});
+  canvas_->centreOn(box->bounds.center());
+  selectionMayHaveChanged();
+}
+
+}  // namespace orvuilib

@@ -1,0 +1,40 @@
+#include "standalone/widgets/compound/edits/EditSession.h"
+
+#include "platform/ORV_1_0/Host.h"
+#include "standalone/graph/model/ContainerObject.h"
+#include "standalone/widgets/hooks/HookRegistry.h"
+
+namespace orvuilib {
+
+orvUI_v1::CommandHook* EditSession::findHook() const {
+  const ORV_v1::Host host;
+  const std::string& runtime = scene_.levelNode()->core().runtime();
+  return HookRegistry::commandHook(host.getRuntimeByName(runtime.c_str()));
+}
+
+orvUI_v1::AppServicesHook* EditSession::services() const { return HookRegistry::appServicesHook(); }
+
+bool EditSession::hasHook() const {
+  return scene_.levelNode() && scene_.levelNode()->container() && findHook();
+}
+
+QString EditSession::refusal() const {
+  if (!scene_.levelNode() || !scene_.levelNode()->container()) return QStringLiteral("No graph");
+  if (!hasHook()) return QStringLiteral("Read only: no program takes edits");
+  if (!level().isEditable())
+    return QStringLiteral("Read only: the compound is locked or referenced");
+  return {};
+}
+
+EditStep::EditStep(const EditSession& session, const QString& name)
+    : hook_(session.hook()), services_(session.services()), core_(&session.level().node()->core()) {
+  if (services_) services_->openUndoChunk(name);
+  hook_.openChangeBracket(core_->container());
+}
+
+EditStep::~EditStep() {
+  if (core_->container()) hook_.closeChangeBracket(core_->container());
+  if (services_) services_->closeUndoChunk();
+}
+
+}  // namespace orvuilib

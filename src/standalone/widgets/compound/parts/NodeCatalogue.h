@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "platform/orvUI_1_0/OrvUiApi.h"
+#include "standalone/widgets/compound/edits/NodeEdits.h"
+
+namespace orvuilib {
+
+/// One thing that the menu of nodes offers.
+struct CatalogueEntry {
+  edits::NewNode what;
+  QString title;        ///< "Add"
+  QString place;        ///< "core::math", or what kind of thing it is
+  QString description;  ///< may be empty
+  const orvlib::NodeDescription* definition = nullptr;  ///< kept by `keeper`
+  ORV_v1::AddRefWrapper<ORV_v1::NodeDefinition> keeper;
+};
+
+/// All that can be added to a graph: the definitions of its runtime in the order of their
+/// libraries, and what needs no definition.
+std::vector<CatalogueEntry> catalogueFor(const orvlib::GraphCore& core);
+
+/// Those that fit what was typed, the best first; with a port, only those that could be connected
+/// to it. `entries` outlives the result.
+ORVUI_EXPORT std::vector<const CatalogueEntry*> chooseFrom(
+    const std::vector<CatalogueEntry>& entries, const QString& typed, orvlib::PortObject* port);
+
+}  // namespace orvuilib

@@ -1,0 +1,198 @@
+// How the scene follows its level.
+
+#include "standalone/widgets/compound/scene/LevelScene.h"
+#include "standalone/widgets/compound/scene/Placement.h"
+
+namespace orvuilib {
+
+using orvlib::NodeChange;
+using orvlib::NodeObject;
+
+namespace {
+
+constexpr unsigned char kLooks = orvlib::kValueChange | orvlib::kPortChange |
+                                 orvlib::kIdentityChange | orvlib::kWatchChange |
+                                 orvlib::kWireChange;
+constexpr QRectF kNewBackdrop(0, 0, 260, 160);
+constexpr QRectF kNewNote(0, 0, 180, 90);
+
+bool showsCompoundPorts(const NodeObject& node) {
+  return node.nodeKind() == orvlib::NodeKind::Input || node.nodeKind() == orvlib::NodeKind::Output;
+}
+
+/// A text that names a colour as "#rrggbb"; else the other one.
+QRgb colourOf(const QString& text, QRgb otherwise) {
+  const QColor colour(text);
+  return colour.isValid() ? colour.rgb() : otherwise;
+}
+
+}  // namespace
+
+QRectF LevelScene::follow(std::span<const NodeChange> changes) {
+  if (!level_) return {};
+  QRectF touched;
+  // First what came and went: wires are made between what is there.
+  for (const NodeChange& change : changes) {
+    if (change.bits & orvlib::kPlaceChange)
+      touched |= followNode(*change.node, orvlib::kPlaceChange);
+  }
+  for (const NodeChange& change : changes) {
+    if (change.node.get() == level_.get()) {
+      touched |= followLevel(change.bits);
+    } else {
+      if (!(change.bits & orvlib::kPlaceChange)) touched |= followNode(*change.node, change.bits);
+    }
+  }
+  dropGone();
+  return touched | watchedArea();
+}
+
+QRectF LevelScene::followNode(NodeObject& node, unsigned char bits) {
+  BoxItem* box = find(&node);
+  if (node.parent() != level()) {
+    if (!box) return {};
+    const QRectF area = reachOf(*box);
+    takeAway(*box);
+    return showsCompoundPorts(node) ? area | refreshFaces(orvlib::kPortChange) : area;
+  }
+  if (!box) {
+    box = &addBox(node);
+    if (!box->placed) box->bounds.moveTopLeft(freePlaceFor(*box));
+    boxGrid_.insert(*box);
+    addArrivingWires(*box);
+    addLeavingWires(*box);
+    return showsCompoundPorts(node) ? refreshFaces(orvlib::kPortChange) : reachOf(*box);
+  }
+  QRectF touched;
+  if (bits & kLooks) {
+    touched |= showsCompoundPorts(node) ? refreshFaces(orvlib::kPortChange) : refresh(*box);
+  }
+  if (bits & orvlib::kMetadataChange) touched |= followPosition(*box);
+  return touched;
+}
+
+QRectF LevelScene::followLevel(unsigned char bits) {
+  QRectF touched;
+  if (bits & orvlib::kContentChange) touched |= followNotes();
+  if (bits & kLooks) touched |= refreshFaces(bits);
+  if (bits & orvlib::kMetadataChange) {
+    touched |= followPosition(*inputs_) | followPosition(*outputs_);
+  }
+  return touched;
+}
+
+/// The level's own ports may go from one box to another, and with them wires whose far ends are not
+/// told of: unless only wires changed, all boxes that show such ports are wired anew.
+QRectF LevelScene::refreshFaces(unsigned char bits) {
+  std::vector<BoxItem*> boxes = ioBoxes_;
+  boxes.insert(boxes.end(), {inputs_.get(), outputs_.get()});
+  QRectF touched;
+  const bool portsMayMove = bits & orvlib::kPortChange;
+  for (BoxItem* box : boxes) {
+    if (!portsMayMove) continue;
+    touched |= reachOf(*box);
+    removeWires(*box);
+  }
+  for (BoxItem* box : boxes) touched |= refresh(*box);
+  for (BoxItem* box : boxes) {
+    if (!portsMayMove) continue;
+    addLeavingWires(*box);
+    touched |= reachOf(*box);
+  }
+  return touched;
+}
+
+/// Ports and texts anew, and the wires that end here. What begins here is left alone when the ports
+/// are where they were, for there may be any number of them.
+QRectF LevelScene::refresh(BoxItem& box) {
+  const QRectF before = box.bounds;
+  const std::vector<PortSlot> formerSlots = std::move(box.portSlots);
+  boxGrid_.remove(box);
+  layOut(box, openPorts_, theme_);
+  boxGrid_.insert(box);
+  if (box.watched) {
+    watched_.insert(&box);
+  } else {
+    watched_.remove(&box);
+  }
+  QRectF touched = before | box.bounds | rewireArriving(box);
+  if (before == box.bounds && box.portSlots == formerSlots) return touched;
+  touched |= reachOf(box);
+  for (Wire* wire : box.leaving) setEnds(*wire);
+  return touched | reachOf(box);
+}
+
+QRectF LevelScene::followPosition(BoxItem& box) {
+  const bool boundary = box.kind != BoxKind::Node;
+  const char* key = !boundary                     ? placement::kPosition
+                    : box.kind == BoxKind::Inputs ? placement::kInputsPosition
+                                                  : placement::kOutputsPosition;
+  const auto& metadata = boundary ? level()->metadata() : box.node->metadata();
+  const auto position = placement::pointIn(metadata, key);
+  box.placed = position.has_value();
+  return position ? move(box, *position) : QRectF();
+}
+
+/// Annotations are few: all are looked at.
+QRectF LevelScene::followNotes() {
+  QRectF touched;
+  std::erase_if(notes_, [this, &touched](const auto& entry) {
+    NoteItem& note = *entry.second;
+    if (note.annotation->parent() == level()) return false;
+    touched |= note.bounds;
+    deselect(note);
+    noteGrid_.remove(note);
+    return true;
+  });
+  for (auto* annotation : level()->annotations().items()) {
+    NoteItem* note = find(annotation);
+    if (!note) {
+      touched |= addNote(*annotation).bounds;
+      continue;
+    }
+    const QRectF before = note->bounds;
+    noteGrid_.remove(*note);
+    if (readNote(*note)) touched |= before | note->bounds;
+    noteGrid_.insert(*note);
+  }
+  return touched;
+}
+
+NoteItem& LevelScene::addNote(orvlib::AnnotationObject& annotation) {
+  auto made = std::make_unique<NoteItem>();
+  NoteItem& note = *made;
+  note.annotation = orvlib::AnnotationRef(&annotation);
+  note.bounds = note.isBackdrop() ? kNewBackdrop : kNewNote;
+  readNote(note);
+  noteGrid_.insert(note);
+  notes_.emplace(&annotation, std::move(made));
+  return note;
+}
+
+/// False when nothing is different.
+bool LevelScene::readNote(NoteItem& note) const {
+  const orvlib::AnnotationObject& annotation = *note.annotation;
+  const auto& metadata = annotation.metadata();
+  QRectF bounds = note.bounds;
+  if (const auto at = placement::pointIn(metadata, placement::kPosition)) bounds.moveTopLeft(*at);
+  if (const auto size = placement::pointIn(metadata, placement::kSize)) {
+    bounds.setSize({std::max(size->x(), 60.0), std::max(size->y(), 40.0)});
+  }
+  QString text = placement::textIn(metadata, placement::kText);
+  if (text.isEmpty() && note.isBackdrop()) text = QString::fromStdString(annotation.name());
+  const QRgb usual = note.isBackdrop() ? qRgb(0x4a, 0x55, 0x66) : qRgb(0xd9, 0xc8, 0x7a);
+  const QRgb colour = colourOf(placement::textIn(metadata, placement::kColour), usual);
+  if (bounds == note.bounds && text == note.text && colour == note.colour) return false;
+  note.bounds = bounds;
+  note.text = text;
+  note.colour = colour;
+  return true;
+}
+
+QRectF LevelScene::watchedArea() const {
+  QRectF area;
+  for (const BoxItem* box : watched_) area |= reachOf(*box);
+  return area;
+}
+
+}  // namespace orvuilib

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/orvUI_1_0/OrvUiApi.h"
+#include "standalone/widgets/compound/paint/BoxPainter.h"
+#include "standalone/widgets/compound/paint/WirePainter.h"
+#include "standalone/widgets/compound/view/EditorPreferences.h"
+#include "standalone/widgets/compound/view/Hit.h"
+
+namespace orvuilib {
+
+/// Gets what the user does on a canvas. Points are of the widget.
+class CanvasInput {
+ public:
+  virtual ~CanvasInput() = default;
+  virtual void mousePressed(QMouseEvent& event) = 0;
+  virtual void mouseMoved(QMouseEvent& event) = 0;
+  virtual void mouseReleased(QMouseEvent& event) = 0;
+  virtual void doubleClicked(QMouseEvent& event) = 0;
+  virtual void wheelTurned(QWheelEvent& event) = 0;
+
+  /// False for a key that means nothing.
+  virtual bool keyPressed(QKeyEvent& event) = 0;
+  virtual void keyReleased(QKeyEvent& event) = 0;
+  virtual QString toolTipAt(const QPointF& point) = 0;
+  virtual void pointerLeft() = 0;
+
+  /// Draws, in units of the canvas, what is going on.
+  virtual void paintGesture(QPainter& painter, const PaintSettings& settings) = 0;
+};
+
+/// The view on a scene: pan, zoom, and painting of no more than is seen. It changes nothing of the
+/// scene.
+class ORVUI_EXPORT Canvas final : public QWidget {
+ public:
+  static constexpr qreal kSmallestZoom = 0.02;
+  static constexpr qreal kLargestZoom = 4;
+
+  Canvas(LevelScene& scene, const EditorPreferences& preferences, QWidget* parent);
+
+  /// Not owned; null is nobody.
+  void setInput(CanvasInput* input) { input_ = input; }
+
+  QPointF toScene(const QPointF& point) const;
+  QPointF toWidget(const QPointF& point) const;
+  QRectF toWidget(const QRectF& area) const;
+
+  /// What of the scene is seen.
+  QRectF visibleArea() const;
+
+  /// 1 is the size at which things are meant to be seen.
+  qreal zoom() const { return zoom_; }
+
+  /// `fixed`, a point of the widget, keeps its place.
+  void setZoom(qreal zoom, const QPointF& fixed);
+  void panBy(const QPointF& pixels);
+  void centreOn(const QPointF& point);
+
+  /// Shows all of the area, at no more than a zoom of 1. Nothing happens for a null area.
+  void fit(const QRectF& area);
+
+  /// The point of the scene at the middle, and back to it.
+  QPointF centre() const { return toScene(QPointF(width(), height()) / 2); }
+
+  void repaintArea(const QRectF& area);
+
+  /// A pixel in units of the scene.
+  qreal reach() const { return 1 / pixels(); }
+
+  Hit hitAt(const QPointF& scenePoint) const;
+  void setHovered(const BoxItem* box, const Wire* wire);
+
+  /// While a wire is made: which ports would take it.
+  void setAccepts(BoxPainter::Accepts accepts);
+
+  /// A text that is told quietly at the lower edge; empty is none.
+  void setNotice(const QString& text);
+  const QString& notice() const { return notice_; }
+
+  /// How many things the last painting drew, for measuring.
+  struct Drawn {
+    std::size_t boxes = 0;
+    std::size_t wires = 0;
+  };
+  const Drawn& lastDrawn() const { return drawn_; }
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  qreal pixels() const { return zoom_ * scene_.theme().scale(); }
+  PaintSettings settings() const;
+  void paintScene(QPainter& painter, const QRectF& area);
+  void paintBoxes(QPainter& painter, const QRectF& area, const PaintSettings& settings);
+  void paintNotice(QPainter& painter);
+
+  LevelScene& scene_;
+  const EditorPreferences& preferences_;
+  CanvasInput* input_ = nullptr;
+  qreal zoom_ = 1;
+  QPointF origin_;  ///< of the scene, in pixels of the widget
+  const BoxItem* hoveredBox_ = nullptr;
+  const Wire* hoveredWire_ = nullptr;
+  BoxPainter::Accepts accepts_;
+  QString notice_;
+  Drawn drawn_;
+
+  // Kept for their memory.
+  std::vector<BoxItem*> visibleBoxes_;
+  std::vector<Wire*> visibleWires_;
+};
+
+}  // namespace orvuilib

@@ -1,0 +1,108 @@
+#include "standalone/widgets/parameters/RowState.h"
+
+#include <algorithm>
+
+#include "standalone/graph/types/Components.h"
+#include "standalone/graph/types/ValueText.h"
+#include "standalone/widgets/parameters/PortEdits.h"
+
+namespace orvuilib {
+
+using orvlib::PortKind;
+using orvlib::PortObject;
+using orvlib::PortRef;
+using orvlib::Value;
+
+namespace {
+
+/// More are not shown.
+constexpr std::size_t kMostSources = 100;
+
+void addSource(RowState& state, PortObject* source) {
+  if (!source || state.sources.size() >= kMostSources) return;
+  const auto isSame = [source](const PortRef& known) { return known.get() == source; };
+  if (std::ranges::none_of(state.sources, isSame)) state.sources.emplace_back(source);
+}
+
+void addSources(RowState& state, const PortObject& port) {
+  for (PortObject* peer : port.peers().items()) addSource(state, peer);
+  const auto* children = port.madeChildren();
+  if (!children || !port.isFanInPort()) return;
+  for (PortObject* member : children->items()) addSource(state, member->source());
+}
+
+/// Notes which components of two values differ. Arrays are compared as a whole.
+void compare(RowState& state, const Value& first, const Value& other) {
+  if (state.mixed.size() == 1) {
+    if (!state.mixed[0]) state.mixed[0] = !orvlib::sameValue(first, other);
+    return;
+  }
+  for (std::size_t i = 0; i < state.mixed.size(); ++i) {
+    if (state.mixed[i]) continue;
+    state.mixed[i] =
+        !orvlib::sameValue(orvlib::componentsOf(first, i, 1), orvlib::componentsOf(other, i, 1));
+  }
+}
+
+void readComponentSources(RowState& state, const PortObject& port) {
+  const auto* children = port.isInput() && !port.isFanInPort() ? port.madeChildren() : nullptr;
+  if (!children) return;
+  for (unsigned int i = 0; i < children->count() && i < state.componentSources.size(); ++i) {
+    if (PortObject* source = children->at(i)->source()) state.componentSources[i] = PortRef(source);
+  }
+}
+
+void readPort(RowState& state, const PortObject& port, const Value& first) {
+  state.own = state.own || port.ownValue() != nullptr;
+  readComponentSources(state, port);
+  if (port.isInput() && isConnected(port)) {
+    ++state.connected;
+    addSources(state, port);
+  } else if (canEdit(port)) {
+    state.editable = true;
+  }
+  compare(state, first, port.unconnectedValue());
+}
+
+}  // namespace
+
+bool RowState::anyMixed() const {
+  return std::ranges::any_of(mixed, [](bool differs) { return differs; });
+}
+
+bool isConnected(const PortObject& port) {
+  if (port.hasPeers()) return true;
+  const auto* children = port.isFanInPort() ? port.madeChildren() : nullptr;
+  return children && std::ranges::any_of(children->items(), [](const PortObject* member) {
+           return member->hasPeers();
+         });
+}
+
+RowState readState(const ParameterRow& row) {
+  RowState state;
+  const PortObject& first = row.first();
+  const bool isArray = row.type().isArray();
+  const std::size_t count = isArray ? 1 : row.type().componentCount();
+  state.mixed.resize(count);
+  state.componentSources.resize(count);
+  // A copy: the value of an object that goes while others are read would go with it.
+  const Value value = first.unconnectedValue();
+  for (const PortRef& port : row.ports) readPort(state, *port, value);
+  state.texts = valueTexts(first);
+  return state;
+}
+
+QStringList valueTexts(const PortObject& port) {
+  QStringList texts;
+  const auto value = port.settableValue();
+  if (!value) return texts;
+  for (const std::string& text : orvlib::printValue(*value)) texts.append(toText(text));
+  return texts;
+}
+
+QString sourceName(const PortObject& source) {
+  const orvlib::NodeObject* node = source.node();
+  return (node ? toText(node->name()) + "." : QString()) + toText(source.fullName());
+}
+
+}  // namespace orvuilib

@@ -1,0 +1,246 @@
+#include "standalone/widgets/colour/ColourPicker.h"
+
+#include <gmock/gmock.h>
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+#include "standalone/widgets/colour/ColourDialog.h"
+#include "standalone/widgets/colour/ColourField.h"
+#include "standalone/widgets/colour/ColourPalette.h"
+#include "standalone/widgets/colour/ColourSlider.h"
+#include "standalone/widgets/colour/ColourSwatch.h"
+#include "tests/standalone/widgets/colour/ColourTesting.h"
+
+namespace {
+
+using orvUI_v1::HIGColor;
+using orvuilib::ColourDialog;
+using orvuilib::ColourField;
+using orvuilib::ColourPalette;
+using orvuilib::ColourPicker;
+using orvuilib::ColourSlider;
+using orvuilib::ColourSwatch;
+using testing::ElementsAre;
+
+class Picker : public ColourTest {
+ protected:
+  Picker() {
+    picker.setColour({0.25f, 0.5f, 0.75f, 1});
+    picker.resize(picker.sizeHint());
+    picker.show();
+  }
+
+  QDoubleSpinBox& number(int row) { return *picker.findChildren<QDoubleSpinBox*>().at(row); }
+  ColourSlider& slider(int row) { return *picker.findChildren<ColourSlider*>().at(row); }
+  ColourField& field() { return *picker.findChild<ColourField*>(); }
+
+  ColourPicker picker;
+  QSignalSpy changing{&picker, &ColourPicker::changing};
+  QSignalSpy changed{&picker, &ColourPicker::changed};
+};
+
+TEST_F(Picker, ShowsTheColourWithoutSayingThatItChanged) {
+  EXPECT_DOUBLE_EQ(number(0).value(), 0.25);
+  EXPECT_DOUBLE_EQ(number(5).value(), 0.75);
+  EXPECT_EQ(changing.count() + changed.count(), 0);
+}
+
+TEST_F(Picker, ASliderSaysWhereItIsAndAtItsEndThatItIsDone) {
+  ColourSlider& red = slider(0);
+  const int middle = red.height() / 2;
+  QTest::mousePress(&red, Qt::LeftButton, {}, {red.width() / 2, middle});
+  QTest::mouseMove(&red, {red.width() - 4, middle});
+  EXPECT_GE(changing.count(), 2);
+  EXPECT_EQ(changed.count(), 0);
+  QTest::mouseRelease(&red, Qt::LeftButton, {}, {red.width() - 4, middle});
+  EXPECT_EQ(changed.count(), 1);
+  EXPECT_NEAR(picker.colour().r, 1.0f, 1e-6f);
+  EXPECT_EQ(picker.colour().g, 0.5f);
+}
+
+TEST_F(Picker, ANumberIsTakenAsItIsAlsoBeyondTheSlider) {
+  number(0).setValue(12.5);
+  EXPECT_EQ(picker.colour(), (HIGColor{12.5f, 0.5f, 0.75f, 1}));
+  EXPECT_EQ(changed.count(), 1);
+  EXPECT_EQ(slider(0).position(), 1.0f);
+}
+
+TEST_F(Picker, TheSquareChoosesSaturationAndValue) {
+  const QRectF square = field().squareArea();
+  QTest::mouseClick(&field(), Qt::LeftButton, {}, square.center().toPoint());
+  EXPECT_NEAR(number(4).value(), 0.5, 0.02);
+  EXPECT_NEAR(number(5).value(), 0.5, 0.02);
+  EXPECT_NEAR(number(3).value(), 7.0 / 12, 1e-4) << "the hue stays";
+  EXPECT_EQ(changed.count(), 1);
+}
+
+TEST_F(Picker, TheRingAndTheStripChooseTheHue) {
+  const QRectF ring = field().hueArea();
+  QTest::mouseClick(&field(), Qt::LeftButton, {},
+                    QPointF(ring.center().x(), ring.top() + 5).toPoint());
+  EXPECT_NEAR(number(3).value(), 0.25, 0.01);
+  field().setShape(ColourField::kSquare);
+  const QRectF strip = field().hueArea();
+  QTest::mouseClick(&field(), Qt::LeftButton, {}, strip.center().toPoint());
+  EXPECT_NEAR(number(3).value(), 0.5, 0.01);
+}
+
+TEST_F(Picker, TheShapeIsAPreference) {
+  QTest::mouseClick(picker.findChild<QToolButton*>(QStringLiteral("shape")), Qt::LeftButton);
+  EXPECT_EQ(field().shape(), ColourField::kSquare);
+  const ColourPicker next;
+  EXPECT_EQ(next.findChild<ColourField*>()->shape(), ColourField::kSquare);
+}
+
+TEST_F(Picker, WhatLiesBesideTheFieldIsNotTaken) {
+  QTest::mouseClick(&field(), Qt::LeftButton, {}, {1, 1});
+  EXPECT_EQ(changed.count(), 0);
+}
+
+TEST_F(Picker, KeysMoveInTheSquareAndTurnTheHue) {
+  QTest::keyClick(&field(), Qt::Key_Up);
+  EXPECT_NEAR(number(5).value(), 0.76, 1e-4);
+  QTest::keyClick(&field(), Qt::Key_PageUp, Qt::ShiftModifier);
+  EXPECT_NEAR(number(3).value(), 7.0 / 12 + 0.1, 1e-4);
+  EXPECT_EQ(changed.count(), 2);
+}
+
+TEST_F(Picker, AGreyLetsTheHueBeChosen) {
+  picker.setColour({0.5f, 0.5f, 0.5f, 1});
+  const QRectF ring = field().hueArea();
+  QTest::mouseClick(&field(), Qt::LeftButton, {},
+                    QPointF(ring.center().x(), ring.top() + 5).toPoint());
+  number(4).setValue(1.0);
+  EXPECT_NEAR(picker.colour().r, 0.25f, 0.02f);
+  EXPECT_NEAR(picker.colour().g, 0.5f, 0.02f);
+}
+
+TEST_F(Picker, TakesACodeAndRefusesWhatIsNone) {
+  auto& code = *picker.findChild<QLineEdit*>(QStringLiteral("colourCode"));
+  code.selectAll();
+  QTest::keyClicks(&code, "#ff0000");
+  QTest::keyClick(&code, Qt::Key_Return);
+  EXPECT_EQ(picker.colour(), (HIGColor{1, 0, 0, 1}));
+  code.selectAll();
+  QTest::keyClicks(&code, "mud");
+  QTest::keyClick(&code, Qt::Key_Return);
+  EXPECT_EQ(code.text(), "#ff0000");
+  EXPECT_EQ(changed.count(), 1);
+}
+
+TEST_F(Picker, TheScreenGivesAColourUnlessItIsCancelled) {
+  auto& dropper = *picker.findChild<QToolButton*>(QStringLiteral("eyeDropper"));
+  EXPECT_FALSE(dropper.isEnabled());
+  orvUI_v1::setEyeDropperHandler([](HIGColor* colour) {
+    *colour = {0.1f, 0.2f, 0.3f, 1};
+    return true;
+  });
+  picker.setColour({0, 0, 0, 0.5f});
+  dropper.click();
+  EXPECT_EQ(picker.colour(), (HIGColor{0.1f, 0.2f, 0.3f, 0.5f})) << "alpha is not on the screen";
+  orvUI_v1::setEyeDropperHandler([](HIGColor* colour) {
+    *colour = {1, 1, 1, 1};
+    return false;
+  });
+  dropper.click();
+  EXPECT_EQ(picker.colour(), (HIGColor{0.1f, 0.2f, 0.3f, 0.5f}));
+}
+
+TEST_F(Picker, MixesInTheSpaceAndPaintsThroughTheView) {
+  HalvingHandler handler;
+  EXPECT_DOUBLE_EQ(number(0).value(), 0.125) << "it follows the handler that was registered";
+  number(0).setValue(0.5);
+  EXPECT_EQ(picker.colour().r, 1.0f);
+  handler.setEnabled(false);
+  EXPECT_DOUBLE_EQ(number(0).value(), 1.0);
+  handler.setEnabled(true);
+  EXPECT_DOUBLE_EQ(number(0).value(), 0.5);
+}
+
+TEST_F(Picker, ChoosesSpacesAndTellsWhenOneIsRefused) {
+  HalvingHandler handler;
+  auto& spaces = *picker.findChild<QComboBox*>(QStringLiteral("mixingSpace"));
+  EXPECT_EQ(spaces.currentText(), "Half");
+  emit spaces.textActivated(QStringLiteral("Other"));
+  EXPECT_EQ(handler.mixingSpace(), "Other");
+  emit spaces.textActivated(QStringLiteral("Refused"));
+  EXPECT_EQ(handler.mixingSpace(), "Other");
+  EXPECT_EQ(spaces.currentText(), "Other");
+  EXPECT_TRUE(picker.findChild<QWidget*>(QStringLiteral("note"))->isVisible());
+}
+
+TEST_F(Picker, StandsHostileColours) {
+  const float inf = std::numeric_limits<float>::infinity();
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  for (const HIGColor& colour :
+       {HIGColor{nan, inf, -inf, nan}, HIGColor{-5, 1e38f, 0, 2}, HIGColor{inf, inf, inf, -1}}) {
+    picker.setColour(colour);
+    EXPECT_FALSE(picker.grab().isNull());
+  }
+  EXPECT_EQ(changed.count(), 0);
+}
+
+TEST_F(Picker, KeepsColoursInThePalette) {
+  ColourPalette::keep({1, 0, 0, 1});
+  ColourPalette::keep({1, 0, 0, 1});
+  ColourPalette::keep({0, 1, 0, 1});
+  EXPECT_THAT(ColourPalette::kept(), ElementsAre(HIGColor{1, 0, 0, 1}, HIGColor{0, 1, 0, 1}));
+  ColourPalette::drop(0);
+  ColourPalette::drop(7);
+  EXPECT_THAT(ColourPalette::kept(), ElementsAre(HIGColor{0, 1, 0, 1}));
+  QTest::qWait(0);
+  auto* palette = picker.findChild<ColourPalette*>();
+  auto* swatch = palette->findChild<ColourSwatch*>();
+  QTest::mouseClick(swatch, Qt::LeftButton);
+  EXPECT_EQ(picker.colour(), (HIGColor{0, 1, 0, 1}));
+}
+
+TEST_F(Picker, RemembersTheLastColours) {
+  for (int i = 0; i < 20; ++i) ColourPalette::noteChosen({static_cast<float>(i), 0, 0, 1});
+  ColourPalette::noteChosen({15, 0, 0, 1});
+  const auto recent = ColourPalette::recent();
+  ASSERT_EQ(recent.size(), 12u);
+  EXPECT_EQ(recent[0].r, 15.0f);
+  EXPECT_EQ(recent[1].r, 19.0f);
+}
+
+class Dialog : public ColourTest {
+ protected:
+  Dialog() { dialog.show(); }
+
+  ColourDialog dialog{{0.5f, 0.5f, 0.5f, 1}, nullptr};
+  QSignalSpy changing{&dialog, &ColourDialog::changing};
+  QSignalSpy chosen{&dialog, &ColourDialog::chosen};
+  QSignalSpy cancelled{&dialog, &ColourDialog::cancelled};
+};
+
+TEST_F(Dialog, IsOneChoiceHoweverMuchWasTried) {
+  dialog.picker().findChild<QDoubleSpinBox*>()->setValue(0.25);
+  dialog.picker().findChild<QDoubleSpinBox*>()->setValue(0.75);
+  EXPECT_EQ(changing.count(), 2);
+  EXPECT_EQ(chosen.count(), 0);
+  dialog.accept();
+  ASSERT_EQ(chosen.count(), 1);
+  EXPECT_EQ(chosen[0][0].value<HIGColor>(), (HIGColor{0.75f, 0.5f, 0.5f, 1}));
+  EXPECT_THAT(ColourPalette::recent(), ElementsAre(HIGColor{0.75f, 0.5f, 0.5f, 1}));
+}
+
+TEST_F(Dialog, EscapeLeavesTheColour) {
+  dialog.picker().findChild<QDoubleSpinBox*>()->setValue(0.25);
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  EXPECT_EQ(chosen.count(), 0);
+  EXPECT_EQ(cancelled.count(), 1);
+}
+
+TEST_F(Dialog, TakingTheSameColourChangesNothing) {
+  dialog.accept();
+  EXPECT_EQ(chosen.count(), 0);
+  EXPECT_EQ(cancelled.count(), 1);
+}
+
+}  // namespace

@@ -1,0 +1,123 @@
+#include "standalone/widgets/parameters/RowView.h"
+
+#include <QLineEdit>
+#include <QScrollBar>
+
+#include "standalone/widgets/parameters/GroupHeader.h"
+#include "standalone/widgets/parameters/ParameterPreferences.h"
+#include "tests/standalone/widgets/parameters/ParameterTesting.h"
+
+namespace orvuilib {
+namespace {
+
+class RowViewTest : public ParameterTest {
+ protected:
+  /// A compound "box" of so many inputs, p0 and so on.
+  void selectPorts(int count) {
+    host.run("orvCompound g \"/\" -create \"box\"");
+    std::string line = "orvCompound g \"/box\"";
+    for (int i = 0; i < count; ++i) {
+      line += " -createInputPort \"p" + std::to_string(i) + "\" \"float\"";
+    }
+    host.run(line);
+    select({"/box"});
+  }
+
+  QLineEdit* search() { return editor.findChild<QLineEdit*>("search"); }
+};
+
+TEST_F(RowViewTest, OnlyWhatCanBeSeenHasWidgets) {
+  selectPorts(500);
+  EXPECT_LT(rows().widgetCount(), 60u);
+  EXPECT_EQ(row("p499")->row().label, "p499");
+  settle();
+  EXPECT_LT(rows().widgetCount(), 60u);
+}
+
+TEST_F(RowViewTest, AThousandNodesHaveOneRowAPort) {
+  std::string line = "orvCompound g \"/\"";
+  for (int i = 0; i < 1000; ++i) line += " -addNode \"core::math::add\"";
+  host.run(line);
+  std::vector<std::string> paths;
+  for (const auto& child : graph.getTopNode()->asCompound()->getChildNodes()) {
+    paths.push_back(std::string("/") + child->getName());
+  }
+  select(paths);
+  EXPECT_EQ(rows().widgetCount(), 3u);
+  EXPECT_EQ(row("a")->row().ports.size(), 1000u);
+}
+
+TEST_F(RowViewTest, TheTabKeyWalksThroughAllRows) {
+  selectPorts(100);
+  QTest::mouseClick(entry("p0"), Qt::LeftButton);
+  for (int i = 1; i < 100; ++i) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    settle();
+  }
+  auto* last = dynamic_cast<EntryField*>(QApplication::focusWidget());
+  ASSERT_NE(last, nullptr);
+  EXPECT_EQ(last, entry("p99"));
+  QTest::keyClick(last, Qt::Key_Backtab);
+  EXPECT_EQ(QApplication::focusWidget(), entry("p98"));
+}
+
+TEST_F(RowViewTest, WhatHasTheFocusSurvivesScrolling) {
+  selectPorts(100);
+  EntryField* field = entry("p0");
+  QTest::mouseClick(field, Qt::LeftButton);
+  field->selectAll();
+  QTest::keyClicks(field, "8");
+  rows().verticalScrollBar()->setValue(rows().verticalScrollBar()->maximum());
+  settle();
+  EXPECT_TRUE(field->hasFocus());
+  QTest::keyClick(field, Qt::Key_Return);
+  EXPECT_EQ(value("/box.p0"), "8");
+}
+
+TEST_F(RowViewTest, KeepsItsPlaceWhenValuesAndPortsChange) {
+  selectPorts(100);
+  rows().verticalScrollBar()->setValue(500);
+  settle();
+  host.run("orvNode g \"/box\" -setPortDefaultValues \"p5\" \"1\"");
+  host.run("orvCompound g \"/box\" -createInputPort \"more\" \"float\"");
+  settle();
+  EXPECT_EQ(rows().verticalScrollBar()->value(), 500);
+}
+
+TEST_F(RowViewTest, TheSearchFieldFiltersRows) {
+  selectPorts(30);
+  QTest::keyClicks(search(), "P2");
+  settle();
+  EXPECT_EQ(rows().rowOf("p1"), nullptr);
+  EXPECT_NE(rows().rowOf("p2"), nullptr);
+  EXPECT_NE(rows().rowOf("p29"), nullptr);
+  QTest::keyClick(search(), Qt::Key_Escape);
+  settle();
+  EXPECT_NE(rows().rowOf("p1"), nullptr);
+}
+
+TEST_F(RowViewTest, AClickOnAHeadingClosesItsGroupForGood) {
+  selectPorts(3);
+  auto* header = find<GroupHeader>();
+  ASSERT_NE(header, nullptr);
+  QTest::mouseClick(header, Qt::LeftButton);
+  settle();
+  EXPECT_EQ(rows().rowOf("p1"), nullptr);
+  EXPECT_FALSE(ParameterPreferences::isOpen("compound"));
+  select({});
+  select({"/box"});
+  EXPECT_EQ(rows().rowOf("p1"), nullptr);
+  QTest::keyClicks(search(), "p1");
+  EXPECT_NE(rows().rowOf("p1"), nullptr);
+}
+
+TEST_F(RowViewTest, HiddenPortsHaveNoRow) {
+  selectPorts(3);
+  host.run("orvCompound g \"/box\" -hidePort \"p1\" true");
+  settle();
+  EXPECT_EQ(rows().rowOf("p1"), nullptr);
+  EXPECT_NE(rows().rowOf("p2"), nullptr);
+}
+
+}  // namespace
+}  // namespace orvuilib
