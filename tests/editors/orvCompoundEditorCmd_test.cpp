@@ -1,5 +1,8 @@
 #include "editors/orvCompoundEditorCmd.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include "tests/editors/EditorTesting.h"
 
 namespace {
@@ -91,6 +94,8 @@ TEST_F(CompoundEditorCmd, WithoutAPanelTheEntryStaysDead) {
   host.run("orvCompoundEditor -name \"a\"");
   EXPECT_THAT(panelLines(), testing::SizeIs(2));
   EXPECT_FALSE(editorRegistry["a"].panel);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_FALSE(editorRegistry["a"].editor) << "nobody would own it";
   EXPECT_EQ(ask("-listEditors"), "");
 }
 
@@ -98,6 +103,28 @@ TEST_F(CompoundEditorCmd, ShowsAGraph) {
   host.run("orvCompoundEditor -name \"a\" -edit \"g\"");
   EXPECT_EQ(ask("-name \"a\" -dgContainer"), "\"g\"");
   EXPECT_EQ(ask("-name \"a\" -currentCompound"), "\"/\"");
+}
+
+TEST_F(CompoundEditorCmd, AGraphThatIsDeletedLeavesABlankEditor) {
+  host.run("orvCompoundEditor -name \"a\" -edit \"g\"");
+  host.run("delete g");
+  EXPECT_EQ(ask("-name \"a\" -currentCompound"), R"([""])");
+  host.graph("g");
+  EXPECT_EQ(ask("-name \"a\" -currentCompound"), R"([""])") << "another graph of the name";
+  host.run("orvCompoundEditor -name \"a\" -edit \"g\"");
+  EXPECT_EQ(ask("-name \"a\" -currentCompound"), "\"/\"");
+  host.run("file -new -force");
+  EXPECT_EQ(ask("-name \"a\" -currentCompound"), R"([""])");
+}
+
+TEST_F(CompoundEditorCmd, AGraphThatComesBackCanBeShownAgain) {
+  host.run("orvCompoundEditor -name \"a\" -edit \"g\"");
+  host.run("delete g");
+  undo();
+  host.run("orvCompoundEditor -name \"a\" -edit \"g\"");
+  host.run("orvCompoundEditor -name \"a\" -selectNodes \"add\"");
+  host.run("orvCompound \"g\" \"/\" -removeNode \"add\"");
+  EXPECT_EQ(ask("-name \"a\" -nodeSelection"), "");
 }
 
 TEST_F(CompoundEditorCmd, BringsThePanelBackAndChangesTheGraph) {

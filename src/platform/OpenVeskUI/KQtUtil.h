@@ -15,7 +15,8 @@ class VESK_EXPORT KQtUtil {
 
   /// Docks the child into the parent's layout, whose Qt parent chain then owns it. `name` becomes
   /// the child's object name unless it is empty. Returns the object name that the child has then;
-  /// empty when child or parent is null.
+  /// empty when child or parent is null. Without a parent nobody
+  /// would own a child that has none either: it is deleted later.
   static KString addWidgetToVeskLayout(QWidget* child, QWidget* parent, const KString& name);
 
   /// A size in pixels at the interface scale of 100 percent, at the scale in force.

@@ -23,6 +23,7 @@ void OrvGraphPayload::enteredScene(SceneNode& node) {
 void OrvGraphPayload::leftScene(SceneNode&) {
   node_ = nullptr;
   graph_.container().withdrawUuid();
+  graph_.container().retire();
 }
 
 void OrvGraphPayload::renamed(SceneNode& node) { graph_.container().setContainerName(node.name()); }

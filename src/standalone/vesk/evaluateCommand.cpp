@@ -20,6 +20,7 @@ class EvaluateCommand : public BuiltinCommand {
  private:
   KStatus run(const KArgDatabase& arguments) override {
     const std::vector<std::string> texts = positionalTexts(arguments);
+    if (texts.size() < 2) return fail("say which graph, and which port of it");
     orvlib::Graph* graph = findGraph(texts[0]);
     if (!graph) return fail('"' + texts[0] + "\" is no node that carries a graph");
     orvlib::PortObject* port = findPort(graph->container(), texts[1]);

@@ -52,13 +52,18 @@ CommandPanel::CommandPanel(HostSession& session)
   input_->entered = [this](const QString& text) { runLines(text); };
   sink_ = session_.messages().addSink([this](const Message& message) { hear(message); });
   results_ = session_.engine().lineEnded().add([this](const FinishedLine& line) {
-    if (line.display && hasResult(line.result)) log_->add(LogKind::Result, toText(line.result));
+    const bool told = std::exchange(toldError_, false);
+    if (!line.display) return;
+    if (hasResult(line.result)) log_->add(LogKind::Result, toText(line.result));
+    if (line.status || told) return;
+    log_->add(LogKind::Error, "it failed with status " + std::to_string(line.status.statusCode()));
   });
 }
 
 CommandPanel::~CommandPanel() { session_.messages().removeSink(sink_); }
 
 void CommandPanel::hear(const Message& message) {
+  toldError_ |= message.kind == MessageKind::Error;
   const bool blankLine = message.kind == MessageKind::Echo && isBlank(message.text);
   if (!blankLine) log_->add(logKind(message.kind), message.text);
 }

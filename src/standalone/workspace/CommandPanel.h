@@ -27,6 +27,7 @@ class CommandPanel final : public QWidget {
   CommandInput* input_;
   MessageChannel::SinkId sink_;
   Observation results_;
+  bool toldError_ = false;  ///< of the line that is running
 };
 
 }  // namespace vesk

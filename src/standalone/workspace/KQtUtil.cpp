@@ -28,6 +28,7 @@ QWidget* KQtUtil::getCurrentParent() {
 }
 
 KString KQtUtil::addWidgetToVeskLayout(QWidget* child, QWidget* parent, const KString& name) {
+  if (child && !parent && !child->parent()) child->deleteLater();
   if (!child || !parent) return {};
   if (name.length() > 0) child->setObjectName(QString::fromUtf8(name.asUTF8()));
   layoutOf(*parent)->addWidget(child);

@@ -3,6 +3,7 @@
 
 #include "standalone/host/commands/BuiltinCommand.h"
 #include "standalone/workspace/MainWindow.h"
+#include "standalone/workspace/Workspace.h"
 #include "standalone/workspace/workspaceCommands.h"
 
 namespace vesk {
@@ -62,6 +63,8 @@ class WorkspaceControlCommand : public BuiltinCommand {
     }
     if (!MainWindow::current()) return fail("there is no window; start vesk with --gui");
     if (arguments.isFlagSet("-ls")) return list(arguments);
+    // When no panel comes of it, nothing is built into another one.
+    if (mode == kCreate) Workspace::current()->setCurrentParent(nullptr);
     const std::vector<std::string> names = positionalTexts(arguments);
     if (names.empty()) return fail("the name of the panel is missing");
     if (names[0].empty()) return fail("the name of the panel is empty");

@@ -11,6 +11,7 @@
 #include "standalone/workspace/CommandLog.h"
 #include "standalone/workspace/Theme.h"
 #include "tests/standalone/workspace/WindowTest.h"
+#include "tests/support/ProbeCommand.h"
 
 namespace windowtest {
 namespace {
@@ -69,6 +70,16 @@ TEST_F(CommandPanels, ShowEveryKindOfMessageInItsColour) {
   w_.session().messages().error("wrong");
   EXPECT_THAT(log(), EndsWith("\n! wrong"));
   EXPECT_EQ(colourOfLastLine(), vesk::theme::kError);
+  w_.host().takeMessages();
+}
+
+TEST_F(CommandPanels, SayOfALineThatFailedInSilenceThatItFailed) {
+  hosttest::addProbe(w_.host(), "silent",
+                     {.doIt = [](auto&, auto&) -> KStatus { return StatusFailure; }});
+  enter("silent");
+  EXPECT_EQ(log(), "> silent\n! it failed with status 1");
+  enter("nothing");
+  EXPECT_THAT(log(), EndsWith("! unknown command \"nothing\""));
   w_.host().takeMessages();
 }
 

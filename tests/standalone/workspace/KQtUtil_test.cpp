@@ -132,4 +132,16 @@ TEST(KQtUtilDocking, WithoutChildOrParentNothingIsDocked) {
   EXPECT_TRUE(widget.objectName().isEmpty());
 }
 
+TEST(AddedWidget, ThatNobodyWouldOwnIsDeleted) {
+  const QPointer<QWidget> child = new QWidget;
+  EXPECT_EQ(KQtUtil::addWidgetToVeskLayout(child, nullptr, "").length(), 0u);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_FALSE(child);
+  QWidget owner;
+  const QPointer<QWidget> owned = new QWidget(&owner);
+  KQtUtil::addWidgetToVeskLayout(owned, nullptr, "");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(owned);
+}
+
 }  // namespace

@@ -51,6 +51,16 @@ TEST_F(Panels, AreMadeWithALabelAndBecomeTheCurrentParent) {
   EXPECT_EQ(KQtUtil::getCurrentParent(), w_.panels().find("p")->content());
 }
 
+TEST_F(Panels, ThatAreRefusedLeaveNoCurrentParent) {
+  for (const char* refused : {"outliner", "-initialWidth 0 q", "\"\""}) {
+    run("-label \"A label\" -retain off -deleteLater off p");
+    EXPECT_NE(w_.host().status(std::string("workspaceControl ") + refused), StatusSuccess);
+    w_.host().takeMessages();
+    EXPECT_EQ(KQtUtil::getCurrentParent(), nullptr) << refused;
+    w_.run("workspaceControl -e -close p");
+  }
+}
+
 TEST_F(Panels, HaveTheirNameForALabelUnlessOneIsGiven) {
   run("p");
   EXPECT_EQ(run("-q -label p"), "\"p\"");

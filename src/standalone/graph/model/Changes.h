@@ -35,8 +35,8 @@ class ORV_EXPORT ChangeListener {
   /// in the graph. What a listener changes in its turn is told afterwards.
   virtual void graphChanged(ContainerObject& container, std::span<const NodeChange> changes) = 0;
 
-  /// The graph is about to go; its nodes that are still held are in no graph then. A listener may
-  /// remove itself or others here.
+  /// The graph goes: it is taken away, or about to end, when nodes of it that are still held are in
+  /// no graph. A listener may remove itself or others here.
   virtual void graphGoes(ContainerObject& container);
 };
 

@@ -17,17 +17,19 @@ ContainerObject::ContainerObject(std::string runtime)
 }
 
 ContainerObject::~ContainerObject() {
-  tellOfTheEnd();
+  retire();
   ContainerTable::leave(*this);
   withdrawUuid();
   core_->container_ = nullptr;
 }
 
-void ContainerObject::tellOfTheEnd() {
-  settling_ = true;
+void ContainerObject::retire() {
+  const bool settling = std::exchange(settling_, true);
   for (std::size_t i = 0; i < listeners_.size(); ++i) {
     if (listeners_[i]) listeners_[i]->graphGoes(*this);
   }
+  settling_ = settling;
+  if (!settling) std::erase(listeners_, nullptr);
 }
 
 void ContainerObject::publishUuid(const std::string& uuid) {

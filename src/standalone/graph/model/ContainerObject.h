@@ -50,6 +50,11 @@ class ORV_EXPORT ContainerObject final : public ORV_v1::Container, public ORV_v1
   void addListener(ChangeListener& listener);
   void removeListener(ChangeListener& listener);
 
+  /// Tells the listeners that the graph goes, so that whoever shows it lets it go. The program
+  /// calls it when it takes the graph away and keeps it, as for undo; the graph itself does so at
+  /// its end.
+  void retire();
+
   /// Brackets by hand; null is the container. False as `Container` says.
   bool openBracket(ORV_v1::ChangeBracketClient* client);
   bool closeBracket(ORV_v1::ChangeBracketClient* client);
@@ -82,7 +87,6 @@ class ORV_EXPORT ContainerObject final : public ORV_v1::Container, public ORV_v1
   void endBracket(Client& client);
   void release();
   void settle();
-  void tellOfTheEnd();
   void forget(NodeObject& node);
 
   /// Notes a change of a node that is in the graph.

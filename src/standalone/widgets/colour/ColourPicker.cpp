@@ -10,6 +10,7 @@
 #include <QToolButton>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "standalone/widgets/colour/ColourField.h"
 #include "standalone/widgets/colour/ColourPalette.h"
@@ -212,7 +213,8 @@ void ColourPicker::showRow(const Row& row) {
 
 /// A hue that the user moves stays, also where the colour has none.
 void ColourPicker::mix(const HIGColor& mixing) {
-  const bool moved = !(mixing == mixing_);
+  // Bit for bit: what is no number does not equal itself.
+  const bool moved = std::memcmp(&mixing, &mixing_, sizeof mixing) != 0;
   mixing_ = mixing;
   hsv_ = toHsv(mixing_, hsv_);
   if (moved) colour_ = fromMixing(mixing);

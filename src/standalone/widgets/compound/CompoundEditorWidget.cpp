@@ -7,6 +7,7 @@
 #include "platform/ORV_1_0/AnnotationList.h"
 #include "platform/ORV_1_0/Host.h"
 #include "standalone/graph/model/ContainerObject.h"
+#include "standalone/widgets/colour/ColourRegistry.h"
 #include "standalone/widgets/hooks/HookRegistry.h"
 #include "standalone/widgets/look/Scale.h"
 #include "standalone/widgets/preferences/Preferences.h"
@@ -26,6 +27,7 @@ void loadPreferencesOnce() {
   if (loaded || !hook) return;
   loaded = true;
   hook->syncUserPrefs(AppServicesHook::kLoadPrefs);
+  if (auto* colours = ColourRegistry::instance().handler()) colours->restoreUserPrefs();
 }
 
 }  // namespace
@@ -242,9 +244,9 @@ void CompoundEditorWidget::graphChanged(orvlib::ContainerObject& container,
   selectionMayHaveChanged();
 }
 
-/// The graph takes its listeners along.
 void CompoundEditorWidget::graphGoes(orvlib::ContainerObject&) {
-  container_ = nullptr;
+  interaction_->cancel();
+  listenTo(nullptr);
   navigator_.open(nullptr);
   showCurrentLevel();
 }
