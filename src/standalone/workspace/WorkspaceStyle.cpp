@@ -79,6 +79,7 @@ void drawPanelTitle(const QStyleOptionDockWidget& option, QPainter& painter, con
   painter.setPen(theme::kLine);
   painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
   painter.setPen(option.palette.color(QPalette::WindowText));
+  painter.setFont(theme::textFont());
   const QRect area = text.adjusted(theme::scaled(4), 0, 0, 0);
   painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                    painter.fontMetrics().elidedText(option.title, Qt::ElideRight, area.width()));

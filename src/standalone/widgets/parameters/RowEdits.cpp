@@ -53,7 +53,7 @@ void RowEdits::setComponent(int index, const QString& text) {
   setPortValues(values(index, text), stepName("Set"));
 }
 
-void RowEdits::reset() { resetPortValues(row_.ports, stepName("Reset")); }
+void RowEdits::reset() { resetPortValues(editablePorts(), stepName("Reset")); }
 
 void RowEdits::show(const QStringList& texts) { show(values(texts)); }
 

@@ -99,6 +99,28 @@ TEST_F(EditorActionsTest, GroupsAndExplodes) {
   EXPECT_EQ(apart, QPointF(300, 20));
 }
 
+TEST_F(EditorActionsTest, ExplodingALockedCompoundMovesNothing) {
+  host.run("orvCompound \"g\" \"/\" -create \"closed\"");
+  host.run("orvCompound \"g\" \"/closed\" -setMetaData \"locked\" \"true\"");
+  selectAll({"closed"});
+  const QPointF a = box("a")->bounds.topLeft();
+  const QPointF b = box("b")->bounds.topLeft();
+  key(Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
+  host.takeMessages();
+  EXPECT_TRUE(node("/closed"));
+  EXPECT_EQ(box("a")->bounds.topLeft(), a);
+  EXPECT_EQ(box("b")->bounds.topLeft(), b);
+}
+
+TEST_F(EditorActionsTest, FindsNothingAgainOnceTheGraphIsGone) {
+  key(Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(editor->findChild<QLineEdit*>(), "a");
+  editor->editCompound({});
+  open();
+  key(Qt::Key_F3);
+  EXPECT_TRUE(node("/a"));
+}
+
 TEST_F(EditorActionsTest, SwitchesStates) {
   selectAll({"a", "b"});
   EXPECT_THAT(step(Qt::Key_E), ElementsAre("orvNode \"g\" \"/a\" -setStateFlag \"e\" false",

@@ -113,13 +113,14 @@ std::vector<NodeRef> explode(EditSession& session) {
   if (compounds.empty()) return all;
   const EditStep step(session, QStringLiteral("Explode"));
   for (const auto& [compound, place] : compounds) {
-    // The compound itself goes.
     Count before = countOf(session);
-    --before.nodes;
     const auto list = ORV_v1::NodeList::createNew(session.scene().level());
     list->add(EditSession::handle(*compound));
     ORV_v1::NodeList* raw = list.get();
     session.hook().explodeCompounds(session.levelHandle(), raw);
+    // One that is locked or referenced stays.
+    if (compound->parent() == &session.level()) continue;
+    --before.nodes;
     const auto nodes = nodesSince(session, before);
     if (nodes.empty()) continue;
     shift(session, before, place - topLeftOf(nodes, annotationsSince(session, before)));

@@ -73,6 +73,7 @@ void BoxPainter::paintBody(QPainter& painter, const BoxItem& box, bool hovered) 
   // A compound has a second edge: there is something inside.
   if (!boundary && box.node->compound()) {
     painter.setPen(QPen(QColor(box.titleColour).lighter(150), 0));
+    painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(box.bounds.adjusted(2.5, 2.5, -2.5, -2.5), kCorner - 2, kCorner - 2);
   }
 }

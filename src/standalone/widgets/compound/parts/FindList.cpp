@@ -37,6 +37,8 @@ std::vector<SearchLine> FindList::search(const QString& typed) {
 }
 
 void FindList::chosen(int index) {
+  // The lines stay when what was found is forgotten.
+  if (static_cast<std::size_t>(index) >= found_.size()) return;
   // Whoever hears of it may look for something else.
   const orvlib::NodeRef node = found_[static_cast<std::size_t>(index)].node;
   emit found(node.get());

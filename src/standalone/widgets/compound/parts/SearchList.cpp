@@ -50,7 +50,7 @@ class SearchList::Delegate final : public QStyledItemDelegate {
     const int inset = theme_.pixels(8);
     const QRect area = option.rect.adjusted(inset, 0, -inset, 0);
     const QString place = index.data(Qt::UserRole).toString();
-    const int placeWidth = std::min(metrics.horizontalAdvance(place), area.width() / 2);
+    const int placeWidth = std::min(metrics.horizontalAdvance(place) + 1, area.width() / 2);
     painter->setPen(theme_.palette().quietText);
     painter->drawText(area, Qt::AlignRight | Qt::AlignVCenter,
                       metrics.elidedText(place, Qt::ElideLeft, placeWidth));
