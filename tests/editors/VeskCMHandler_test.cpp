@@ -12,6 +12,7 @@
 #include "standalone/colour/ColourService.h"
 #include "standalone/widgets/colour/ColourRegistry.h"
 #include "standalone/widgets/preferences/Preferences.h"
+#include "testPaths.h"
 #include "tests/standalone/colour/ColourTesting.h"
 #include "tests/support/HostTest.h"
 

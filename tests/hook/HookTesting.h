@@ -16,6 +16,7 @@
 #include "standalone/graph/model/ContainerObject.h"
 #include "standalone/graph/storage/GraphText.h"
 #include "standalone/widgets/hooks/HookRegistry.h"
+#include "testPaths.h"
 #include "tests/support/GraphHost.h"
 #include "tests/support/ProbeCommand.h"
 #include "tests/support/TemporaryFiles.h"

@@ -1,6 +1,7 @@
 // Publishing compounds, and those that come from a published one.
 
 #include "standalone/graph/library/RuntimeRegistry.h"
+#include "testPaths.h"
 #include "tests/hook/HookTesting.h"
 
 namespace {

@@ -10,6 +10,7 @@
 
 #include "standalone/graph/library/RuntimeRegistry.h"
 #include "standalone/host/engine/HostSession.h"
+#include "testPaths.h"
 #include "tests/plugin/RecordedCalls.h"
 
 inline constexpr const char* kModulePath = VESK_BUILD_DIR "/plug-ins/veskOrvPlugin.so";

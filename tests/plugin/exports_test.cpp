@@ -6,6 +6,7 @@
 #include <cstring>
 #include <set>
 
+#include "testPaths.h"
 #include "tests/standalone/vesk/ProgramRun.h"
 
 namespace {

@@ -6,6 +6,7 @@
 
 #include "platform/OpenVesk/KStringResource.h"
 #include "standalone/host/engine/HostAccess.h"
+#include "testPaths.h"
 #include "tests/plugin/ModuleTesting.h"
 
 namespace {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <regex>
 
+#include "testPaths.h"
 #include "tests/standalone/vesk/ProgramRun.h"
 
 namespace {

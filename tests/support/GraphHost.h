@@ -3,6 +3,7 @@
 #include "standalone/graph/library/RuntimeRegistry.h"
 #include "standalone/host/scene/Scene.h"
 #include "standalone/vesk/OrvGraphPayload.h"
+#include "testPaths.h"
 #include "tests/support/HostTest.h"
 
 namespace hosttest {

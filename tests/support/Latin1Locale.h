@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "testPaths.h"
+
 namespace hosttest {
 
 /// While it lives, narrow text is Latin-1. Fails the test when the locale, which the build makes,

@@ -3,6 +3,7 @@
 
 #include "plugin/orvChangeBracketCmd.h"
 #include "standalone/graph/library/RuntimeRegistry.h"
+#include "testPaths.h"
 #include "tests/commands/compound/RandomLines.h"
 #include "tests/support/TemporaryFiles.h"
 

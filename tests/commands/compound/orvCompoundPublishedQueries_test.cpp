@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "testPaths.h"
 #include "tests/commands/compound/CompoundWiring.h"
 #include "tests/support/TemporaryFiles.h"
 

@@ -1,6 +1,7 @@
 // Resetting to what was published, and being a reference to it or not.
 
 #include "standalone/graph/library/RuntimeRegistry.h"
+#include "testPaths.h"
 #include "tests/commands/compound/CompoundEditTesting.h"
 #include "tests/support/TemporaryFiles.h"
 

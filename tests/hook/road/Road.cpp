@@ -5,6 +5,7 @@
 #include "standalone/host/scene/Scene.h"
 #include "standalone/vesk/OrvGraphPayload.h"
 #include "standalone/widgets/hooks/HookRegistry.h"
+#include "testPaths.h"
 #include "tests/standalone/vesk/ProgramRun.h"
 
 namespace {

@@ -10,6 +10,7 @@
 #include <set>
 
 #include "standalone/vesk/TextDiff.h"
+#include "testPaths.h"
 #include "tests/hook/road/Calls.h"
 #include "tests/standalone/vesk/ProgramRun.h"
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "standalone/graph/library/RuntimeRegistry.h"
+#include "testPaths.h"
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "standalone/graph/library/RuntimeRegistry.h"
+#include "testPaths.h"
 
 namespace {
 

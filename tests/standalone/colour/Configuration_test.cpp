@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include "testPaths.h"
 #include "tests/standalone/colour/ColourTesting.h"
 #include "tests/support/Unprivileged.h"
 

@@ -8,6 +8,7 @@
 #include "standalone/graph/edits/Wiring.h"
 #include "standalone/graph/library/RuntimeRegistry.h"
 #include "standalone/graph/model/ContainerObject.h"
+#include "testPaths.h"
 
 namespace orvlib {
 

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QProcess>
 
+#include "testPaths.h"
 #include "tests/standalone/vesk/ProgramRun.h"
 #include "tests/support/HiddenDisplay.h"
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "testPaths.h"
 #include "tests/standalone/graph/TemporaryFolder.h"
 
 inline const std::string kVesk = VESK_BUILD_DIR "/bin/vesk";

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "testPaths.h"
 #include "tests/standalone/vesk/ProgramRun.h"
 
 namespace {

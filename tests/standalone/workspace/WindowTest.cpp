@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "standalone/workspace/WorkspaceApplication.h"
+#include "testPaths.h"
 
 namespace windowtest {
 namespace {

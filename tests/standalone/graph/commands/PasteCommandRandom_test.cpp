@@ -10,6 +10,7 @@
 #include "standalone/graph/library/RuntimeRegistry.h"
 #include "standalone/graph/storage/GraphText.h"
 #include "standalone/graph/storage/SelectionSeal.h"
+#include "testPaths.h"
 #include "tests/standalone/graph/commands/GraphInvariants.h"
 #include "tests/standalone/graph/commands/RandomSubgraph.h"
 

@@ -5,6 +5,7 @@
 #include "standalone/graph/api/GraphAccess.h"
 #include "standalone/graph/evaluation/Kernel.h"
 #include "standalone/graph/library/LoadedRuntime.h"
+#include "testPaths.h"
 
 /// The definitions of the standard runtime.
 inline const orvlib::LoadedRuntime& standardRuntime() {

@@ -5,6 +5,7 @@
 #include "standalone/graph/api/GraphAccess.h"
 #include "standalone/graph/library/LoadedRuntime.h"
 #include "standalone/graph/types/ValueText.h"
+#include "testPaths.h"
 
 namespace {
 

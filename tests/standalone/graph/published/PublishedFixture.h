@@ -1,6 +1,7 @@
 #pragma once
 
 #include "standalone/graph/storage/GraphText.h"
+#include "testPaths.h"
 #include "tests/standalone/graph/GraphFixture.h"
 #include "tests/standalone/graph/TemporaryFolder.h"
 

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "standalone/graph/edits/FaultPoints.h"
+#include "testPaths.h"
 #include "tests/standalone/graph/published/PublishedFixture.h"
 #include "tests/support/Unprivileged.h"
 

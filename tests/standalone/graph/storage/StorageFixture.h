@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "standalone/graph/storage/GraphText.h"
+#include "testPaths.h"
 #include "tests/standalone/graph/GraphFixture.h"
 
 namespace orvlib {

@@ -1,4 +1,5 @@
 #include "standalone/graph/types/ValueText.h"
+#include "testPaths.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

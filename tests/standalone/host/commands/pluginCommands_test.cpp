@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "standalone/host/language/Tokenizer.h"
+#include "testPaths.h"
 #include "tests/support/HostTest.h"
 
 namespace {

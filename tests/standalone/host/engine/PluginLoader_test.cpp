@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "standalone/host/language/Tokenizer.h"
+#include "testPaths.h"
 #include "tests/support/ProbeCommand.h"
 #include "tests/support/TemporaryFiles.h"
 

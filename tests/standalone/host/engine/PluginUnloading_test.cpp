@@ -5,6 +5,7 @@
 #include "platform/OpenVesk/KGlobal.h"
 #include "standalone/host/engine/PluginLoader.h"
 #include "standalone/host/language/Tokenizer.h"
+#include "testPaths.h"
 #include "tests/support/ProbeCommand.h"
 
 namespace {

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "standalone/widgets/clipboard/QtClipboard.h"
+#include "testPaths.h"
 #include "tests/support/HiddenDisplay.h"
 
 namespace {

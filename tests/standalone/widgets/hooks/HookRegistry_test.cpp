@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "standalone/graph/library/RuntimeRegistry.h"
+#include "testPaths.h"
 #include "tests/standalone/widgets/hooks/IdleHooks.h"
 
 namespace {

@@ -1,4 +1,5 @@
 #include "standalone/widgets/compound/input/Shortcuts.h"
+#include "testPaths.h"
 
 #include <gtest/gtest.h>
 
