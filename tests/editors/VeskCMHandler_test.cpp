@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QJsonObject>
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -10,6 +11,7 @@
 #include "platform/OpenVeskRender/KColorMixingSpaceHelper.h"
 #include "platform/OpenVeskRender/KColorPickerUtilities.h"
 #include "standalone/colour/ColourService.h"
+#include "standalone/host/engine/HostAccess.h"
 #include "standalone/widgets/colour/ColourRegistry.h"
 #include "standalone/widgets/preferences/Preferences.h"
 #include "testPaths.h"
@@ -22,6 +24,7 @@ using orvUI_v1::HIGColor;
 namespace {
 
 int directionOfBase = -1;
+int questionsForViews = 0;
 
 }  // namespace
 
@@ -30,6 +33,12 @@ HIGColor ColorManagementHandler::applyMixingTransform(const HIGColor& color,
                                                       Direction direction) const {
   directionOfBase = direction;
   return color;
+}
+
+/// In place of the host's, to see whether it is asked.
+KStringArray KColorMixingSpaceHelper::getViewNames(KStatus*) const {
+  ++questionsForViews;
+  return HostAccess::stringArray(vesk::colour::ColourService::current()->mixingSpace().views);
 }
 
 namespace {
@@ -75,13 +84,24 @@ TEST_F(CMHandler, OffersWhatTheHostHas) {
 }
 
 TEST_F(CMHandler, HasViewsOnlyWhereTheSpaceHas) {
+  questionsForViews = 0;
   EXPECT_THAT(handler().getViewSpaceNames(), IsEmpty());
+  EXPECT_EQ(questionsForViews, 0) << "the host is not asked for what is not there";
   EXPECT_EQ(handler().viewSpace(), "");
   ASSERT_TRUE(handler().setMixingSpace("sRGB Monitor"));
   EXPECT_THAT(handler().getViewSpaceNames(), ElementsAre("Standard", "Film", "Log", "Raw"));
+  EXPECT_EQ(questionsForViews, 1);
   EXPECT_TRUE(handler().setViewSpace("Log"));
   EXPECT_EQ(handler().viewSpace(), "Log");
   EXPECT_EQ(service.screen().view, "Log");
+}
+
+/// What the base keeps, as it would be stored.
+std::pair<QString, QString> keptByBase(const ColorManagementHandler& handler) {
+  handler.saveUserPrefs();
+  const QJsonObject section = orvuilib::Preferences::instance().section("colorManagement");
+  orvuilib::Preferences::instance().replaceAll({});
+  return {section.value("mixingSpace").toString(), section.value("viewSpace").toString()};
 }
 
 TEST_F(CMHandler, WhatTheHostRefusesChangesNothing) {
@@ -89,6 +109,71 @@ TEST_F(CMHandler, WhatTheHostRefusesChangesNothing) {
   EXPECT_EQ(handler().mixingSpace(), "sRGB Texture");
   EXPECT_FALSE(handler().setViewSpace("Standard")) << "the space has no views";
   EXPECT_THAT(host.takeMessages(), ::testing::SizeIs(2));
+  EXPECT_EQ(keptByBase(handler()), std::pair(QString("sRGB Texture"), QString()));
+  ASSERT_TRUE(handler().setMixingSpace("sRGB Monitor"));
+  ASSERT_TRUE(handler().setViewSpace("Log"));
+  EXPECT_FALSE(handler().setViewSpace("Mud"));
+  EXPECT_THAT(host.takeMessages(), ::testing::SizeIs(1));
+  EXPECT_EQ(handler().viewSpace(), "Log");
+  EXPECT_EQ(keptByBase(handler()), std::pair(QString("sRGB Monitor"), QString("Log")));
+}
+
+/// The module is loaded in the test.
+class CMHandlerAtLoad : public ::testing::Test {
+ protected:
+  ~CMHandlerAtLoad() override { orvuilib::Preferences::instance().replaceAll({}); }
+
+  ColorManagementHandler& load() {
+    EXPECT_TRUE(host.session().plugins().load(kModule));
+    return *orvuilib::ColourRegistry::instance().handler();
+  }
+
+  hosttest::Host host;
+};
+
+TEST_F(CMHandlerAtLoad, BeginsWithWhatTheHostHasAndWritesNothingBack) {
+  ColourService service{{.readsEnvironment = false}};
+  ASSERT_TRUE(service.setMixingSpace("P3-D65 Cinema"));
+  ASSERT_TRUE(service.setView("Film"));
+  int changes = 0;
+  service.setChangeListener([&changes] { ++changes; });
+  const ColorManagementHandler& handler = load();
+  EXPECT_EQ(keptByBase(handler), std::pair(QString("P3-D65 Cinema"), QString("Film")));
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(CMHandlerAtLoad, IsThereWithTheHostsColourManagementOff) {
+  ColourService service{{.readsEnvironment = false, .enabled = false}};
+  ColorManagementHandler& handler = load();
+  EXPECT_FALSE(handler.isColorManagementAvailable());
+  EXPECT_TRUE(handler.enabled());
+  EXPECT_EQ(handler.mixingSpace(), "");
+  EXPECT_FALSE(handler.setMixingSpace("ACEScg"));
+  EXPECT_EQ(keptByBase(handler), std::pair(QString(), QString()));
+  service.setEnabled(true);
+  EXPECT_TRUE(handler.isColorManagementAvailable());
+  EXPECT_EQ(handler.mixingSpace(), "sRGB Texture");
+}
+
+TEST_F(CMHandlerAtLoad, IsThereWithoutColourManagementAtAll) {
+  ColorManagementHandler& handler = load();
+  EXPECT_FALSE(handler.isColorManagementAvailable());
+  EXPECT_EQ(handler.mixingSpace() + handler.viewSpace(), "");
+  EXPECT_THAT(handler.getMixingSpaceNames(), IsEmpty());
+  const HIGColor colour{-1, 0.5f, 1e30f, 0.25f};
+  EXPECT_EQ(handler.applyViewTransform(colour, ColorManagementHandler::kInverse), colour);
+  EXPECT_EQ(handler.applyMixingTransform(colour, ColorManagementHandler::kInverse), colour);
+  EXPECT_EQ(handler.mixingToSlider(0.25f, 0, 1), 0.25f);
+  EXPECT_EQ(handler.sliderToMixing(0.25f, 0, 1), 0.25f);
+}
+
+TEST_F(CMHandlerAtLoad, ComesAgainAsOftenAsTheModuleDoes) {
+  ColourService service{{.readsEnvironment = false}};
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(load().mixingSpace(), "sRGB Texture");
+    host.run("unloadPlugin veskOrvPlugin");
+    EXPECT_FALSE(orvuilib::ColourRegistry::instance().handler());
+  }
 }
 
 TEST_F(CMHandler, TransformsAsTheHostDoes) {

@@ -8,8 +8,11 @@
 #include <QPainterPath>
 #include <QScreen>
 #include <QWidget>
-#include <memory>
+#include <QWindow>
+#include <optional>
 #include <vector>
+
+#include "standalone/host/engine/HostSession.h"
 
 namespace vesk {
 namespace {
@@ -19,19 +22,20 @@ struct Pick {
   std::optional<QColor> colour;
 };
 
-/// One screen, frozen.
+/// One screen, frozen. The first sheet is modal, so that it can be reached from a modal dialog;
+/// the others belong to it.
 class Sheet : public QWidget {
  public:
-  Sheet(QScreen& screen, Pick& pick)
-      : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+  Sheet(const QScreen& screen, const QImage& picture, Pick& pick, QWidget* first)
+      : QWidget(first, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
         pick_(pick),
-        picture_(screen.grabWindow(0).toImage()) {
-    picture_.setDevicePixelRatio(1);
+        picture_(picture) {
     setObjectName(QStringLiteral("screenPicker"));
     setGeometry(screen.geometry());
     setCursor(Qt::CrossCursor);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    if (!first) setWindowModality(Qt::ApplicationModal);
   }
 
  protected:
@@ -50,8 +54,9 @@ class Sheet : public QWidget {
   void leaveEvent(QEvent*) override { update(); }
 
   void mousePressEvent(QMouseEvent* event) override {
-    const QPoint pixel = pixelAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && picture_.valid(pixel)) {
+    if (event->button() == Qt::LeftButton) {
+      const QPoint pixel = pixelAt(event->position().toPoint());
+      if (!picture_.valid(pixel) || !qAlpha(picture_.pixel(pixel))) return;
       pick_.colour = picture_.pixelColor(pixel);
     }
     pick_.loop.quit();
@@ -99,6 +104,44 @@ class Sheet : public QWidget {
   QPoint at_;
 };
 
+struct ScreenPicture {
+  QScreen* screen;
+  QImage image;  ///< in the screen's own pixels; transparent where nothing can be picked
+};
+
+QSize pixelsOf(const QScreen& screen) {
+  return (QSizeF(screen.size()) * screen.devicePixelRatio()).toSize();
+}
+
+/// This program's windows as they lie on the screen. Null when none is there.
+QImage pictureOfOwnWindows(const QScreen& screen) {
+  QImage picture;
+  for (QWindow* window : QGuiApplication::topLevelWindows()) {
+    if (!window->isVisible() || window->screen() != &screen) continue;
+    QWidget* widget = QWidget::find(window->winId());
+    if (!widget) continue;
+    if (picture.isNull()) {
+      picture = QImage(pixelsOf(screen), QImage::Format_ARGB32);
+      picture.setDevicePixelRatio(screen.devicePixelRatio());
+      picture.fill(Qt::transparent);
+    }
+    QPainter(&picture).drawPixmap(window->position() - screen.geometry().topLeft(), widget->grab());
+  }
+  return picture;
+}
+
+/// All are taken before the first sheet covers anything.
+std::vector<ScreenPicture> takePictures() {
+  std::vector<ScreenPicture> pictures;
+  for (QScreen* screen : QGuiApplication::screens()) {
+    QImage image = screen->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
+    if (image.isNull()) image = pictureOfOwnWindows(*screen);
+    image.setDevicePixelRatio(1);
+    if (!image.isNull()) pictures.push_back({screen, image});
+  }
+  return pictures;
+}
+
 KColor toKColor(const QColor& colour) {
   return {colour.redF(), colour.greenF(), colour.blueF(), colour.alphaF()};
 }
@@ -107,16 +150,23 @@ KColor toKColor(const QColor& colour) {
 
 std::optional<KColor> QtScreenPicker::pick() {
   if (!qobject_cast<QApplication*>(QCoreApplication::instance())) return std::nullopt;
-  Pick pick;
-  // All pictures are taken before the first sheet covers anything.
-  std::vector<std::unique_ptr<Sheet>> sheets;
-  for (QScreen* screen : QGuiApplication::screens()) {
-    sheets.push_back(std::make_unique<Sheet>(*screen, pick));
+  const std::vector<ScreenPicture> pictures = takePictures();
+  if (pictures.empty()) {
+    if (HostSession* session = HostSession::current()) {
+      session->messages().warning(
+          "No colour can be picked: the window system gives no picture of the screen");
+    }
+    return std::nullopt;
   }
-  if (sheets.empty()) return std::nullopt;
-  for (const auto& sheet : sheets) sheet->show();
-  sheets.front()->activateWindow();
-  sheets.front()->setFocus();
+  Pick pick;
+  Sheet first(*pictures.front().screen, pictures.front().image, pick, nullptr);
+  for (std::size_t i = 1; i < pictures.size(); ++i) {
+    (new Sheet(*pictures[i].screen, pictures[i].image, pick, &first))->show();
+  }
+  first.show();
+  first.activateWindow();
+  // On whichever screen the pointer is, Escape cancels.
+  first.grabKeyboard();
   pick.loop.exec();
   return pick.colour ? std::optional(toKColor(*pick.colour)) : std::nullopt;
 }

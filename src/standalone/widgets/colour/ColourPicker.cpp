@@ -166,6 +166,7 @@ void ColourPicker::buildSpaces(QGridLayout& grid) {
 }
 
 void ColourPicker::setColour(const HIGColor& colour) {
+  tell({});
   before_->setColour(colour);
   showColour(colour);
   showSpaces();
@@ -260,20 +261,21 @@ void ColourPicker::showSpaces() {
 }
 
 void ColourPicker::chooseSpace(const QString& name) {
-  auto* management = ColourRegistry::instance().handler();
-  if (!management || name == management->mixingSpace()) return;
-  const bool taken = management->setMixingSpace(name);
-  tell(taken ? QString() : tr("%1 cannot be used").arg(name));
-  if (taken) management->saveUserPrefs();
-  showSpaces();
+  if (auto* management = ColourRegistry::instance().handler()) {
+    noteChoice(name, name == management->mixingSpace() || management->setMixingSpace(name));
+  }
 }
 
 void ColourPicker::chooseView(const QString& name) {
-  auto* management = ColourRegistry::instance().handler();
-  if (!management || name == management->viewSpace()) return;
-  const bool taken = management->setViewSpace(name);
+  if (auto* management = ColourRegistry::instance().handler()) {
+    noteChoice(name, name == management->viewSpace() || management->setViewSpace(name));
+  }
+}
+
+/// What was refused is told, and the boxes go back to what is in force.
+void ColourPicker::noteChoice(const QString& name, bool taken) {
   tell(taken ? QString() : tr("%1 cannot be used").arg(name));
-  if (taken) management->saveUserPrefs();
+  if (taken) ColourRegistry::instance().handler()->saveUserPrefs();
   showSpaces();
 }
 

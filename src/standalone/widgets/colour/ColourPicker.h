@@ -66,6 +66,7 @@ class ORVUI_EXPORT ColourPicker : public QWidget {
   void takeCode();
   void chooseSpace(const QString& name);
   void chooseView(const QString& name);
+  void noteChoice(const QString& name, bool taken);
   void tell(const QString& text);
 
   /// A component of the colour in the mixing space, by its row: three of red, green and blue, three

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -171,7 +172,26 @@ TEST_F(Picker, ChoosesSpacesAndTellsWhenOneIsRefused) {
   emit spaces.textActivated(QStringLiteral("Refused"));
   EXPECT_EQ(handler.mixingSpace(), "Other");
   EXPECT_EQ(spaces.currentText(), "Other");
-  EXPECT_TRUE(picker.findChild<QWidget*>(QStringLiteral("note"))->isVisible());
+  auto& note = *picker.findChild<QLabel*>(QStringLiteral("note"));
+  EXPECT_TRUE(note.isVisible());
+  EXPECT_EQ(note.text(), "Refused cannot be used");
+  emit spaces.textActivated(QStringLiteral("Other"));
+  EXPECT_FALSE(note.isVisible()) << "the space in force can be used";
+  emit spaces.textActivated(QStringLiteral("Refused"));
+  picker.setColour({0, 0, 0, 1});
+  EXPECT_FALSE(note.isVisible()) << "another colour begins anew";
+}
+
+TEST_F(Picker, KeepsTheChoiceThatWasTakenAndNotTheOneRefused) {
+  HalvingHandler handler;
+  auto& spaces = *picker.findChild<QComboBox*>(QStringLiteral("mixingSpace"));
+  const auto kept = [] {
+    return orvuilib::Preferences::instance().section("colorManagement").value("mixingSpace");
+  };
+  emit spaces.textActivated(QStringLiteral("Other"));
+  EXPECT_EQ(kept().toString(), "Other");
+  emit spaces.textActivated(QStringLiteral("Refused"));
+  EXPECT_EQ(kept().toString(), "Other");
 }
 
 TEST_F(Picker, StandsHostileColours) {
