@@ -15,6 +15,8 @@
 #include "standalone/vesk/Startup.h"
 #include "standalone/vesk/TextDiff.h"
 #include "standalone/vesk/Transcript.h"
+#include "standalone/vesk/recovery/KeptJournal.h"
+#include "standalone/vesk/recovery/RecoveryOffer.h"
 
 namespace vesk {
 namespace {
@@ -86,11 +88,13 @@ int runAll(const ProgramOptions& options, LineListener& listener, Console& conso
   if (!platform.problem().empty()) return cannotStart(platform.problem());
 
   HostSession& session = platform.session();
+  const auto journal = keepsJournal(options) ? keepJournal(session) : nullptr;
   const auto window = gui ? gui->open(session, options) : nullptr;
   // In front of a window nothing waits for the program's end.
   if (gui) std::cout << std::unitbuf;
   LineRunner runner(platform, listener, options.keepGoing || !options.batch,
                     gui ? Gui::settleSometimes : nullptr);
+  if (journal) takeUpJournals(options, session, *journal, options.batch ? nullptr : window.get());
   if (options.batch) {
     runner.run(options.inputs.empty() ? standardInput() : *inputs, true);
   } else if (gui) {

@@ -44,6 +44,10 @@ const OptionRow kOptions[] = {
      [](ProgramOptions& o, const char* a) { o.publishedFolder = a; }},
     {"journal", 0, "FILE", "write the lines that ran to this file",
      [](ProgramOptions& o, const char* a) { o.journal = a; }},
+    {"recover", 0, nullptr, "run the lines of a session that ended abruptly again, then go on",
+     [](ProgramOptions& o, const char*) { o.recover = true; }},
+    {"discard", 0, nullptr, "forget the sessions that ended abruptly",
+     [](ProgramOptions& o, const char*) { o.discard = true; }},
     {"colors", 0, "FILE", "use this colour configuration (also: OCIO)",
      [](ProgramOptions& o, const char* a) { o.colours = a; }},
     {"language", 0, "NAME", "show texts in this language, such as de (default: the locale's)",
@@ -95,7 +99,17 @@ std::string problemOfScale(const ProgramOptions& options) {
   return "--scale takes 100, 125, 150, 175 or 200, not " + options.scale;
 }
 
+std::string problemOfRecovery(const ProgramOptions& options) {
+  if (!options.recover && !options.discard) return {};
+  const std::string option = options.recover ? "--recover" : "--discard";
+  if (options.recover && options.discard) return "--recover and --discard exclude each other";
+  if (options.check) return "--check and " + option + " exclude each other";
+  if (options.transcript) return "--transcript and " + option + " exclude each other";
+  return options.journal.empty() ? "" : "--journal and " + option + " exclude each other";
+}
+
 std::string contradiction(const ProgramOptions& options) {
+  if (const std::string problem = problemOfRecovery(options); !problem.empty()) return problem;
   if (const std::string problem = problemOfScale(options); !problem.empty()) return problem;
   if (options.update && !options.check) return "--update goes with --check";
   if (options.check && options.transcript) return "--check and --transcript exclude each other";

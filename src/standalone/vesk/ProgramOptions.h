@@ -29,6 +29,8 @@ struct ProgramOptions {
   bool update = false;
   bool keepGoing = false;
   bool noPlugin = false;
+  bool recover = false;  ///< run the lines again of the last session that ended abruptly
+  bool discard = false;  ///< forget the sessions that ended abruptly
   bool help = false;
   bool version = false;
 };

@@ -69,7 +69,8 @@ KStatus HostSession::runIdleLines() {
   while (!idleQueue_.isEmpty() && !quitRequested) {
     const IdleQueue::Line line = idleQueue_.take();
     ResultValue result;
-    const KStatus status = engine_.run(line.text, result, {.display = line.display});
+    const KStatus status =
+        engine_.run(line.text, result, {.display = line.display, .leftByLine = line.leftByLine});
     if (status) continue;
     messages_.error("idle line: " + quotedBriefly(line.text) + " failed with status " +
                     std::to_string(status.statusCode()));

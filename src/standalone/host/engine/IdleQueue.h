@@ -14,6 +14,8 @@ class IdleQueue {
   struct Line {
     std::string text;
     bool display;
+    bool leftByLine =
+        false;  ///< a line that ran put it here, and does so again when it is run anew
   };
 
   void add(Line line) {

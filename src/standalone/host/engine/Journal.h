@@ -1,6 +1,6 @@
 #pragma once
 
-#include <fstream>
+#include <chrono>
 #include <string>
 #include <string_view>
 
@@ -14,13 +14,21 @@ namespace vesk {
 ///
 /// Only lines that no other command ran are written, each when it has finished. Comments ahead of a
 /// line tell what it showed and what is unusual about it: run without undo or echo, or failed. A
-/// replay runs every line with undo.
+/// replay runs every line with undo. A line that another one left for idle time is a comment: a
+/// replay leaves it again.
+///
+/// Each line is with the system when the next one begins, and, while lines go on, on the disk about
+/// a second later.
 class Journal {
  public:
   explicit Journal(MessageChannel& messages) : messages_(messages) {}
+  ~Journal() { close(); }
+  Journal(const Journal&) = delete;
+  Journal& operator=(const Journal&) = delete;
 
   /// Begins the file anew. False, with nothing written later, when it cannot be written.
   bool open(const std::string& path);
+  void close();
 
   /// When the file can no longer be written, the user is told once.
   void write(std::string_view line, const RunOptions& options, KStatus status);
@@ -28,12 +36,19 @@ class Journal {
   /// Writes an error or a warning as a comment; passes over other messages.
   void note(const Message& message);
 
+  /// Writes a text as a comment of one line.
+  void note(std::string_view text);
+
  private:
-  void append(std::string_view text);
+  using Clock = std::chrono::steady_clock;
+
+  void append(std::string line);
+  bool isWritten(std::string_view bytes);
 
   MessageChannel& messages_;
   std::string path_;
-  std::ofstream file_;
+  int file_ = -1;  ///< descriptor; -1 when none is open
+  Clock::time_point nextSync_;
 };
 
 }  // namespace vesk

@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <utility>
 
-#include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/engine/Messages.h"
 #include "standalone/host/engine/SceneEvents.h"
 #include "standalone/host/language/Tokenizer.h"
@@ -142,7 +141,10 @@ KStatus Scene::startNew() {
 KStatus Scene::open(const std::string& path) {
   if (const KStatus status = refuseWhenBusy(); !status) return status;
   const std::string file = absolutePath(path);
-  SceneText scene = readSceneFile(file, types_);
+  std::string reason;
+  const auto text = store_->read(file, reason);
+  if (!text) return refuse("open", file, reason);
+  SceneText scene = readSceneText(*text, types_);
   if (!scene.error.empty()) return refuse("open", file, scene.error);
 
   const Busy busy(*this);
@@ -163,7 +165,7 @@ KStatus Scene::save(const std::string& path) {
   const std::string file = absolutePath(path);
   const Busy busy(*this);
   events_.send(SceneEvent::BeforeSave);
-  const std::string problem = writeAtomically(file, writeSceneText(*this));
+  const std::string problem = store_->write(file, writeSceneText(*this));
   if (!problem.empty()) return refuse("save", file, problem);
   path_ = file;
   modified_ = false;

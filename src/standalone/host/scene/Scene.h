@@ -10,6 +10,7 @@
 #include "standalone/host/scene/NodeNames.h"
 #include "standalone/host/scene/NodeTypes.h"
 #include "standalone/host/scene/SceneNode.h"
+#include "standalone/host/scene/SceneStore.h"
 #include "standalone/host/scene/Selection.h"
 
 namespace vesk {
@@ -81,6 +82,10 @@ class Scene {
   /// The scene's file from now on is `path`.
   KStatus save(const std::string& path);
 
+  /// Where scenes come from and go to, at first the files. It is borrowed.
+  SceneStore& store() const { return *store_; }
+  void setStore(SceneStore& store) { store_ = &store; }
+
  private:
   class Busy;
 
@@ -98,6 +103,7 @@ class Scene {
   Selection selection_;
   std::uint64_t nextPlace_ = 1;
   std::string path_;
+  SceneStore* store_ = &SceneStore::files();
   Observers<> changed_;
   bool modified_ = false;
   bool busy_ = false;  ///< a new, open or save is under way

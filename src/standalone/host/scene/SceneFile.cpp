@@ -5,7 +5,6 @@
 #include <optional>
 #include <unordered_set>
 
-#include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/language/Tokenizer.h"
 #include "standalone/host/scene/Scene.h"
 
@@ -209,12 +208,6 @@ std::string writeSceneText(const Scene& scene) {
 
 SceneText readSceneText(std::string_view text, const NodeTypes& types) {
   return Reader(text, types).read();
-}
-
-SceneText readSceneFile(const std::string& path, const NodeTypes& types) {
-  SceneText unread;
-  const auto text = readWholeFile(path, unread.error);
-  return text ? readSceneText(*text, types) : std::move(unread);
 }
 
 }  // namespace vesk

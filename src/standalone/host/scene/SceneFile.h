@@ -24,7 +24,4 @@ std::string writeSceneText(const Scene& scene);
 /// Reads and checks a text whole.
 SceneText readSceneText(std::string_view text, const NodeTypes& types);
 
-/// Reads a file; `error` also says why a file cannot be read.
-SceneText readSceneFile(const std::string& path, const NodeTypes& types);
-
 }  // namespace vesk

@@ -58,6 +58,26 @@ TEST_F(JournalTest, HoldsIdleLines) {
   EXPECT_EQ(journal(), "about -batch\nedit a\n");
 }
 
+TEST_F(JournalTest, TellsOfWhatALineLeftForIdleTimeButAReplayOfTheLineLeavesItAgain) {
+  addProbe(host, "leave", {.doIt = [](KPxCommand&, const KArgList& lines) {
+             return KGlobal::executeCommandOnIdle(lines.asString(0), true);
+           }});
+  host.run("leave \"edit a\"");
+  EXPECT_EQ(journal(), "leave \"edit a\"\n// when idle: edit a\n");
+}
+
+TEST_F(JournalTest, ANoteIsACommentOfOneLine) {
+  host.session().journal().note("one\ntwo");
+  EXPECT_EQ(journal(), "// one\\x0atwo\n");
+}
+
+TEST_F(JournalTest, IsWrittenNoMoreOnceItIsClosed) {
+  host.run("edit a");
+  host.session().journal().close();
+  host.run("edit b");
+  EXPECT_EQ(journal(), "edit a\n");
+}
+
 TEST_F(JournalTest, TellsWhatIsUnusualAheadOfTheLine) {
   vesk::ResultValue result;
   vesk::CommandEngine& engine = host.session().engine();

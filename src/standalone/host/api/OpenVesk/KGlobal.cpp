@@ -38,7 +38,8 @@ KStatus KGlobal::executeCommand(const KString& line, int& result, bool displayEn
 KStatus KGlobal::executeCommandOnIdle(const KString& line, bool displayEnabled) {
   vesk::HostSession* session = vesk::HostSession::current();
   if (!session) return StatusFailure;
-  session->idleQueue().add({std::string(HostAccess::text(line)), displayEnabled});
+  session->idleQueue().add(
+      {std::string(HostAccess::text(line)), displayEnabled, session->engine().isRunning()});
   return StatusSuccess;
 }
 
