@@ -1,5 +1,7 @@
 #include "standalone/vesk/OrvGraphPayload.h"
 
+#include "platform/ORV_1_0/ChangeBracket.h"
+#include "standalone/graph/model/Mutator.h"
 #include "standalone/host/scene/SceneNode.h"
 
 namespace vesk {
@@ -26,7 +28,13 @@ void OrvGraphPayload::leftScene(SceneNode&) {
   graph_.container().retire();
 }
 
-void OrvGraphPayload::renamed(SceneNode& node) { graph_.container().setContainerName(node.name()); }
+/// The top stands for the graph: who shows the graph's name hears of it as of that of any node.
+void OrvGraphPayload::renamed(SceneNode& node) {
+  orvlib::ContainerObject& graph = graph_.container();
+  graph.setContainerName(node.name());
+  const ORV_v1::ChangeBracket bracket = graph.makeChangeBracket(nullptr);
+  orvlib::Mutator::renameNode(graph.top(), graph.top().name());
+}
 
 void OrvGraphPayload::graphChanged(orvlib::ContainerObject&, std::span<const orvlib::NodeChange>) {
   if (node_) node_->contentChanged();

@@ -39,6 +39,28 @@ TEST(OrvGraphPayload, HasTheNameOfItsNode) {
   EXPECT_STREQ(graph.getContainerName().getName(), "g");
 }
 
+/// Notes what it is told.
+class Listener final : public orvlib::ChangeListener {
+ public:
+  void graphChanged(orvlib::ContainerObject&,
+                    std::span<const orvlib::NodeChange> changes) override {
+    for (const orvlib::NodeChange& change : changes) told.push_back({change.node, change.bits});
+  }
+  std::vector<orvlib::NodeChange> told;
+};
+
+TEST(OrvGraphPayload, TellsOfAnotherNameAsOfItsTopNode) {
+  GraphHost host;
+  orvlib::ContainerObject& graph = object(host.graph("g"));
+  Listener listener;
+  graph.addListener(listener);
+  host.run("rename g better");
+  graph.removeListener(listener);
+  ASSERT_EQ(listener.told.size(), 1u);
+  EXPECT_EQ(listener.told[0].node.get(), &graph.top());
+  EXPECT_EQ(listener.told[0].bits, orvlib::kIdentityChange);
+}
+
 TEST(OrvGraphPayload, IsOfTheStandardRuntime) {
   GraphHost host;
   EXPECT_EQ(object(host.graph("g")).core().runtime(), "standard");

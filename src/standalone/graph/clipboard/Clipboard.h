@@ -32,4 +32,20 @@ class ORV_EXPORT Clipboard {
   static std::string text();
 };
 
+/// While it lives copies go to it and pastes come from it: what the user copied stays on the
+/// clipboard. They nest.
+class ORV_EXPORT PrivateClipboard {
+ public:
+  PrivateClipboard();
+  ~PrivateClipboard();
+  PrivateClipboard(const PrivateClipboard&) = delete;
+  PrivateClipboard& operator=(const PrivateClipboard&) = delete;
+
+ private:
+  friend class Clipboard;
+
+  PrivateClipboard* outer_;
+  std::string text_;
+};
+
 }  // namespace orvlib

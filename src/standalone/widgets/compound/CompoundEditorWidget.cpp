@@ -52,6 +52,7 @@ CompoundEditorWidget::CompoundEditorWidget(QWidget* parent)
   layout->addWidget(breadcrumb_);
   layout->addWidget(canvas_, 1);
   canvas_->setInput(interaction_.get());
+  session_.setNotice([this](const QString& text) { canvas_->setNotice(text); });
   setFocusProxy(canvas_);
   connect(breadcrumb_, &Breadcrumb::back, this, [this] { perform(Action::Back); });
   connect(breadcrumb_, &Breadcrumb::forward, this, [this] { perform(Action::Forward); });
@@ -64,6 +65,12 @@ CompoundEditorWidget::CompoundEditorWidget(QWidget* parent)
   connect(findList_, &FindList::dismissed, canvas_, [this] { canvas_->setFocus(); });
   connect(&Preferences::instance(), &Preferences::changed, this,
           &CompoundEditorWidget::readPreferences);
+  auto& selection = SelectionModel::instance();
+  connect(&selection, &SelectionModel::changed, this, &CompoundEditorWidget::followSelection);
+  connect(&selection, &SelectionModel::revealAsked, this,
+          [this](const auto& node, bool mayLeaveLevel, bool& revealed) {
+            revealIfAsked(EditSession::object(node), mayLeaveLevel, revealed);
+          });
 }
 
 /// The children go first: they look at what this owns.
@@ -71,6 +78,7 @@ CompoundEditorWidget::~CompoundEditorWidget() {
   listenTo(nullptr);
   canvas_->setInput(nullptr);
   Preferences::instance().disconnect(this);
+  SelectionModel::instance().disconnect(this);
   delete canvas_;
   delete breadcrumb_;
 }
@@ -288,6 +296,27 @@ void CompoundEditorWidget::reveal(NodeObject& node) {
   if (canvas_->zoom() < 0.6) canvas_->setZoom(1, {});
   canvas_->centreOn(box->bounds.center());
   selectionMayHaveChanged();
+}
+
+/// The selection is one for the whole program; here it shows as far as it is on this level.
+void CompoundEditorWidget::followSelection() {
+  std::vector<BoxItem*> boxes;
+  for (const auto& node : SelectionModel::instance().nodes()) {
+    if (BoxItem* box = scene_.find(EditSession::object(node))) boxes.push_back(box);
+  }
+  if (boxes == scene_.selectedBoxes()) return;
+  scene_.clearSelection();
+  for (BoxItem* box : boxes) scene_.select(*box);
+  toldSelection_ = scene_.selectionRound();
+  canvas_->update();
+}
+
+void CompoundEditorWidget::revealIfAsked(NodeObject* node, bool mayLeaveLevel, bool& revealed) {
+  if (!container_ || node->container() != container_ || !node->parent()) return;
+  const bool isHere = node->parent() == scene_.level();
+  if (!isHere && (!mayLeaveLevel || revealed)) return;
+  reveal(*node);
+  revealed = true;
 }
 
 }  // namespace orvuilib

@@ -68,6 +68,8 @@ class ORVUI_EXPORT CompoundEditorWidget final : public orvUI_v1::CompoundEditor,
   void openNodeMenu(const edits::NodePlace& place);
   void addPicked(const edits::NewNode& what);
   void reveal(orvlib::NodeObject& node);
+  void followSelection();
+  void revealIfAsked(orvlib::NodeObject* node, bool mayLeaveLevel, bool& revealed);
   void readPreferences();
 
   // EditorActions.cpp

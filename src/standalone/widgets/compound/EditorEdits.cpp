@@ -165,28 +165,30 @@ void CompoundEditorWidget::autoLayout() {
     boxes.clear();
     for (NodeObject* node : scene_.level()->nodes().items()) boxes.push_back(scene_.find(node));
   }
-  arrange(edits::laidOut(boxes));
+  arrange(edits::laidOut(scene_, boxes));
 }
 
 void CompoundEditorWidget::addBackdrop() {
   QRectF area;
   for (const BoxItem* box : scene_.selectedBoxes()) area |= box->bounds;
   if (area.isNull()) area = QRectF(interaction_->pointer(), QSizeF(200, 110));
-  edits::addBackdrop(session_, area.adjusted(-30, -56, 30, 30));
+  edits::addBackdrop(session_, edits::backdropAround(area));
 }
 
 /// Of the selected nodes, unless a port or a wire is pointed at, their first outputs.
 void CompoundEditorWidget::toggleWatch(const Hit& hit) {
-  if (hit.slot) return edits::toggleWatchPoint(session_, *hit.port());
-  if (hit.wire) return edits::toggleWatchPoint(session_, *hit.wire->source);
+  if (hit.slot || hit.wire) {
+    edits::toggleWatchPoint(session_, hit.slot ? *hit.port() : *hit.wire->source);
+    return;
+  }
   const auto nodes = edits::selectedNodeList(scene_);
   std::vector<orvlib::PortRef> ports;
   for (const auto& node : *nodes) {
     if (auto* output = EditSession::object(node)->outputList().at(0)) ports.emplace_back(output);
   }
   if (ports.empty()) return;
-  const EditStep step(session_, QStringLiteral("Watch"));
-  for (const auto& port : ports) edits::toggleWatchPoint(session_, *port);
+  EditStep step(session_, QStringLiteral("Watch"));
+  for (const auto& port : ports) step.require(edits::toggleWatchPoint(session_, *port));
 }
 
 void CompoundEditorWidget::disconnectSelection() {

@@ -20,4 +20,12 @@ void SelectionModel::select(const Nodes& nodes) {
   emit changed();
 }
 
+void SelectionModel::reveal(const ORV_v1::AddRefWrapper<ORV_v1::Node>& node) {
+  if (!node) return;
+  bool revealed = false;
+  emit revealAsked(node, false, revealed);
+  if (!revealed) emit revealAsked(node, true, revealed);
+  select({node});
+}
+
 }  // namespace orvuilib

@@ -9,8 +9,9 @@
 
 namespace orvuilib {
 
-/// What was last selected in any compound editor of the program. Nodes stay in it when they leave
-/// their graph: whoever shows them passes over those that are in none.
+/// The selection of the program. What is selected in one compound editor is selected in all that
+/// show its level, and nothing else is. Nodes stay in it when they leave their graph: whoever shows
+/// them passes over those that are in none.
 class ORVUI_EXPORT SelectionModel final : public QObject {
   Q_OBJECT
 
@@ -25,8 +26,17 @@ class ORVUI_EXPORT SelectionModel final : public QObject {
 
   const Nodes& nodes() const { return nodes_; }
 
+  /// Selects one node where the user sees it: in the compound editors that show its level. When
+  /// there is none, one that shows its graph goes to that level.
+  void reveal(const ORV_v1::AddRefWrapper<ORV_v1::Node>& node);
+
  signals:
   void changed();
+
+  /// Asks for `reveal`, of those that show the level already, or of any of the graph. Whoever does
+  /// it says so; only the first goes to another level.
+  void revealAsked(const ORV_v1::AddRefWrapper<ORV_v1::Node>& node, bool mayLeaveLevel,
+                   bool& revealed);
 
  private:
   SelectionModel() = default;

@@ -55,6 +55,20 @@ class QtClipboardTest : public orvlib::GraphFixture {
   std::unique_ptr<QtClipboard> clipboard = std::make_unique<QtClipboard>();
 };
 
+TEST_F(QtClipboardTest, APrivateOneLeavesItAsItIs) {
+  system().setText("something else");
+  {
+    const orvlib::PrivateClipboard own;
+    EXPECT_TRUE(pastesNothing()) << "nothing was copied to it";
+    ASSERT_TRUE(copy());
+    EXPECT_TRUE(paste());
+    const orvlib::PrivateClipboard inner;
+    EXPECT_EQ(Clipboard::text(), "");
+  }
+  EXPECT_EQ(system().text(), QString("something else"));
+  EXPECT_EQ(Clipboard::text(), "something else");
+}
+
 TEST_F(QtClipboardTest, HoldsACopyAsItsOwnFormatAndAsPlainText) {
   ASSERT_TRUE(copy());
   const QMimeData* data = system().mimeData();

@@ -1,6 +1,8 @@
 #include "standalone/widgets/compound/CompoundEditorWidget.h"
 
 #include "platform/ORV_1_0/AnnotationList.h"
+#include "standalone/widgets/parameters/ParameterEditorWidget.h"
+#include "standalone/widgets/parameters/fields/SourceLink.h"
 #include "standalone/widgets/selection/SelectionModel.h"
 #include "tests/standalone/widgets/compound/EditorTesting.h"
 
@@ -97,6 +99,66 @@ TEST_F(CompoundEditorWidgetTest, TellsTheSelectionModel) {
   const auto& nodes = orvuilib::SelectionModel::instance().nodes();
   ASSERT_EQ(nodes.size(), 1u);
   EXPECT_STREQ(nodes[0]->getName(), "b");
+}
+
+TEST_F(CompoundEditorWidgetTest, TheBreadcrumbFollowsTheNameOfTheGraph) {
+  host.run("rename g other");
+  EXPECT_THAT(editor->breadcrumb().texts(), ElementsAre("other"));
+  undo();
+  EXPECT_THAT(editor->breadcrumb().texts(), ElementsAre("g"));
+}
+
+TEST_F(CompoundEditorWidgetTest, WhatIsSelectedInOneEditorIsSelectedInAllOfTheLevel) {
+  orvuilib::CompoundEditorWidget second(nullptr);
+  second.editCompound(graph.getTopNode());
+  select({"a", "b"});
+  EXPECT_EQ(second.scene().selectedBoxes().size(), 2u);
+  auto list = ORV_v1::NodeList::createNew(nullptr);
+  list->add(ORV_v1::AddRefWrapper<ORV_v1::Node>(node("/b")));
+  second.setSelectedNodes(list);
+  EXPECT_THAT(selected(), ElementsAre("b"));
+}
+
+/// Over both editors: the link selects, the canvas follows, and a click goes back.
+TEST_F(CompoundEditorWidgetTest, ALinkToASourceSelectsItAndAClickBringsTheOtherBack) {
+  host.run("orvConnect g /a.result /b.a");
+  orvuilib::ParameterEditorWidget parameters(nullptr);
+  parameters.resize(320, 500);
+  parameters.show();
+  click(titleOf("b"));
+  QCoreApplication::processEvents();
+  for (auto* link : parameters.findChildren<orvuilib::SourceLink*>()) {
+    if (!link->text().isEmpty()) {
+      link->click();
+      break;
+    }
+  }
+  QCoreApplication::processEvents();
+  EXPECT_THAT(selected(), ElementsAre("a"));
+  EXPECT_TRUE(canvas().rect().contains(titleOf("a")));
+  click(titleOf("b"));
+  const auto& nodes = orvuilib::SelectionModel::instance().nodes();
+  ASSERT_EQ(nodes.size(), 1u);
+  EXPECT_STREQ(nodes[0]->getName(), "b");
+  key(Qt::Key_Delete);
+  EXPECT_TRUE(node("/a"));
+  EXPECT_FALSE(node("/b"));
+  host.takeEchoes();
+}
+
+TEST_F(CompoundEditorWidgetTest, OneEditorGoesToTheLevelOfWhatIsToBeSeen) {
+  host.run("orvCompound g \"/\" -create inner");
+  host.run("orvCompound g \"/inner\" -addNode core::math::add");
+  orvuilib::CompoundEditorWidget second(nullptr);
+  second.editCompound(graph.getTopNode());
+  const ORV_v1::AddRefWrapper<ORV_v1::Node> deep(node("/inner/add"));
+  orvuilib::SelectionModel::instance().select({deep});
+  EXPECT_EQ(shown(), "/") << "a selection alone goes nowhere";
+  orvuilib::SelectionModel::instance().reveal(deep);
+  EXPECT_EQ(shown(), "/inner");
+  EXPECT_THAT(selected(), ElementsAre("add"));
+  EXPECT_EQ(second.scene().levelNode()->fullPath(), "/");
+  host.takeEchoes();
 }
 
 TEST_F(CompoundEditorWidgetTest, WhatIsRemovedLeavesTheSelection) {

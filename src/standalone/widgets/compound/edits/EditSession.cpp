@@ -27,14 +27,35 @@ QString EditSession::refusal() const {
 }
 
 EditStep::EditStep(const EditSession& session, const QString& name)
-    : hook_(session.hook()), services_(session.services()), core_(&session.level().node()->core()) {
+    : session_(session),
+      hook_(session.hook()),
+      services_(session.services()),
+      core_(&session.level().node()->core()),
+      name_(name) {
   if (services_) services_->openUndoChunk(name);
   hook_.openChangeBracket(core_->container());
+  revision_ = core_->container()->revision();
+}
+
+/// A graph that is gone was changed.
+bool EditStep::changedNothing() const {
+  const orvlib::ContainerObject* container = core_->container();
+  return container && container->revision() == revision_;
+}
+
+QString EditStep::report(bool takenBack) const {
+  if (!reason_.isEmpty()) return reason_;
+  if (takenBack) return QStringLiteral("%1: could not be done, nothing is changed").arg(name_);
+  return QStringLiteral("%1: a part of it could not be done").arg(name_);
 }
 
 EditStep::~EditStep() {
+  const bool nothing = changedNothing();
   if (core_->container()) hook_.closeChangeBracket(core_->container());
-  if (services_) services_->closeUndoChunk();
+  const bool fails = nothing || failures_ > 0;
+  if (services_ && fails) services_->abandonUndoChunk();
+  if (services_ && !fails) services_->closeUndoChunk();
+  if (fails) session_.tell(report(nothing || services_));
 }
 
 }  // namespace orvuilib

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 #include "platform/orvUI_1_0/AppServicesHook.h"
 #include "platform/orvUI_1_0/CommandHook.h"
@@ -27,6 +28,12 @@ class ORVUI_EXPORT EditSession {
   /// Whether a graph is shown that somebody takes requests for.
   bool hasHook() const;
 
+  /// Where it is said that an edit could not be made; at first nowhere.
+  void setNotice(std::function<void(const QString&)> notice) { notice_ = std::move(notice); }
+  void tell(const QString& text) const {
+    if (notice_) notice_(text);
+  }
+
   /// Only while `hasHook`.
   orvUI_v1::CommandHook& hook() const { return *findHook(); }
 
@@ -50,21 +57,42 @@ class ORVUI_EXPORT EditSession {
   orvUI_v1::CommandHook* findHook() const;
 
   LevelScene& scene_;
+  std::function<void(const QString&)> notice_;
 };
 
-/// Edits that are one step of undo, and one change for whoever follows the graph. Empty ones are
-/// not to be opened: they would leave an empty step.
+/// Edits that are one step of undo, and one change for whoever follows the graph. It is made whole
+/// or not at all: when a part that is required was not made, or nothing came of any, the step is
+/// taken back as soon as the program undoes, and the user is told. Without undo steps what was
+/// made stays, and the user is told too.
 class ORVUI_EXPORT EditStep {
  public:
+  /// `name` is said to the user, and names the step.
   EditStep(const EditSession& session, const QString& name);
   EditStep(const EditStep&) = delete;
   EditStep& operator=(const EditStep&) = delete;
   ~EditStep();
 
+  /// Whether a part of the step was made. Gives back what it is given.
+  bool require(bool made) {
+    if (!made) ++failures_;
+    return made;
+  }
+
+  /// What is said when the step is taken back, instead of that it could not be done.
+  void setReason(const QString& reason) { reason_ = reason; }
+
  private:
+  bool changedNothing() const;
+  QString report(bool takenBack) const;
+
+  const EditSession& session_;
   orvUI_v1::CommandHook& hook_;
   orvUI_v1::AppServicesHook* services_;
   orvlib::CoreRef core_;
+  QString name_;
+  QString reason_;
+  std::uint64_t revision_ = 0;
+  int failures_ = 0;
 };
 
 }  // namespace orvuilib

@@ -11,11 +11,6 @@ using orvUI_v1::CommandHook;
 
 namespace {
 
-orvUI_v1::EditSelection selectionOf(const EditSession& session, const ORV_v1::NodeList& nodes,
-                                    const ORV_v1::AnnotationList& annotations) {
-  return {session.levelHandle(), &nodes, &annotations};
-}
-
 /// The one that stands last, when there are more than `before`.
 NodeObject* newestNode(const EditSession& session, unsigned int before) {
   const auto& nodes = session.level().nodes();
@@ -27,7 +22,8 @@ NodeObject* makeCompound(EditSession& session) {
   const auto annotations = ORV_v1::AnnotationList::createNew();
   const unsigned int before = session.level().nodes().count();
   CommandHook::CompoundHandle made;
-  session.hook().createCompound("compound", selectionOf(session, *nodes, *annotations), made);
+  session.hook().createCompound("compound", {session.levelHandle(), nodes.get(), annotations.get()},
+                                made);
   return newestNode(session, before);
 }
 
@@ -43,18 +39,13 @@ NodeObject* makeNode(EditSession& session, const NewNode& what) {
   return EditSession::object(session.hook().addIONode(level, flag, {}));
 }
 
-QRectF selectedBounds(const LevelScene& scene) {
-  QRectF bounds;
-  for (const BoxItem* box : scene.selectedBoxes()) bounds |= box->bounds;
-  for (const NoteItem* note : scene.selectedNotes()) bounds |= note->bounds;
-  return bounds;
-}
-
 }  // namespace
 
-void setPosition(EditSession& session, NodeObject& node, const QPointF& position) {
+bool setPosition(EditSession& session, NodeObject& node, const QPointF& position) {
+  const QString text = placement::toText(position);
   session.hook().setMetaData(CommandHook::kTargetNode, EditSession::handle(node),
-                             QLatin1String(placement::kPosition), placement::toText(position));
+                             QLatin1String(placement::kPosition), text);
+  return placement::textIn(node.metadata(), placement::kPosition) == text;
 }
 
 ORV_v1::AddRefWrapper<ORV_v1::NodeList> selectedNodeList(const LevelScene& scene) {
@@ -80,36 +71,50 @@ NodeObject* addNode(EditSession& session, const NewNode& what, const NodePlace& 
     addStickyNote(session, place.position);
     return nullptr;
   }
-  const EditStep step(session, QStringLiteral("Add node"));
+  EditStep step(session, QStringLiteral("Add node"));
   NodeObject* node = makeNode(session, what);
-  if (!node) return nullptr;
-  setPosition(session, *node, place.position);
-  if (place.connectTo) connectToFirstFitting(session, *place.connectTo, *node);
+  if (!step.require(node)) return nullptr;
+  step.require(setPosition(session, *node, place.position));
+  if (place.connectTo) {
+    step.require(connectToFirstFitting(session, *place.connectTo, *node));
+  }
   return node;
 }
+
+namespace {
+
+bool moveBoundary(EditSession& session, const BoxItem& box, const QPointF& position) {
+  const char* key =
+      box.kind == BoxKind::Inputs ? placement::kInputsPosition : placement::kOutputsPosition;
+  const QString text = placement::toText(position);
+  session.hook().setMetaData(CommandHook::kTargetCompound, EditSession::handle(*box.node),
+                             QLatin1String(key), text);
+  return placement::textIn(session.level().metadata(), key) == text;
+}
+
+bool moveOne(EditSession& session, const Moved& moved) {
+  if (moved.note && moved.size) {
+    return setNoteBounds(session, *moved.note->annotation, {moved.position, *moved.size});
+  }
+  if (moved.note) {
+    return setNoteValue(session, *moved.note->annotation, placement::kPosition,
+                        placement::toText(moved.position));
+  }
+  if (moved.box->kind == BoxKind::Node) {
+    return setPosition(session, *moved.box->node, moved.position);
+  }
+  return moveBoundary(session, *moved.box, moved.position);
+}
+
+}  // namespace
 
 void move(EditSession& session, const std::vector<Moved>& moved, const Wire* insertInto) {
   // A program may tell of each edit at once, and make the wire anew.
   const Wire wire = insertInto ? *insertInto : Wire();
   const orvlib::NodeRef first = moved.front().box ? moved.front().box->node : orvlib::NodeRef();
-  const EditStep step(session, QStringLiteral("Move"));
-  CommandHook& hook = session.hook();
-  for (const Moved& each : moved) {
-    const QString text = placement::toText(each.position);
-    if (each.note) {
-      hook.editAnnotation(CommandHook::kSetAnnotationMetaDataValue, session.levelHandle(),
-                          each.note->annotation->getName(), placement::kPosition,
-                          text.toUtf8().constData());
-    } else if (each.box->kind == BoxKind::Node) {
-      setPosition(session, *each.box->node, each.position);
-    } else {
-      const bool inputs = each.box->kind == BoxKind::Inputs;
-      hook.setMetaData(
-          CommandHook::kTargetCompound, EditSession::handle(*each.box->node),
-          QLatin1String(inputs ? placement::kInputsPosition : placement::kOutputsPosition), text);
-    }
-  }
-  if (insertInto) insertNode(session, wire, *first);
+  EditStep step(session, QStringLiteral("Move"));
+  for (const Moved& each : moved) step.require(moveOne(session, each));
+  if (insertInto) step.require(insertNode(session, wire, *first));
 }
 
 void rename(EditSession& session, NodeObject& node, const QString& name) {
@@ -120,13 +125,19 @@ void removeSelection(EditSession& session, bool heal) {
   const auto nodes = selectedNodeList(session.scene());
   const auto annotations = selectedAnnotationList(session.scene());
   const std::vector<Joint> joints = heal ? jointsAround(session.scene()) : std::vector<Joint>();
-  const EditStep step(session, heal ? QStringLiteral("Remove and heal") : QStringLiteral("Remove"));
-  for (const auto& node : *nodes) session.hook().removeNode(node);
+  EditStep step(session, heal ? QStringLiteral("Remove and heal") : QStringLiteral("Remove"));
+  for (const auto& node : *nodes) {
+    session.hook().removeNode(node);
+    step.require(!EditSession::object(node)->parent());
+  }
   for (const auto& annotation : *annotations) {
     session.hook().editAnnotation(CommandHook::kRemoveAnnotation, session.levelHandle(),
                                   annotation->getName(), nullptr, nullptr);
+    step.require(!static_cast<orvlib::AnnotationObject*>(annotation.get())->parent());
   }
-  for (const Joint& joint : joints) connect(session, *joint.source, *joint.target);
+  for (const Joint& joint : joints) {
+    step.require(connect(session, *joint.source, *joint.target));
+  }
 }
 
 void toggleState(EditSession& session, char flag) {
@@ -135,34 +146,8 @@ void toggleState(EditSession& session, char flag) {
                      : flag == 'f' ? orvlib::NodeState::Frozen
                                    : orvlib::NodeState::Bypassed;
   const bool on = !EditSession::object((*nodes)[0u])->is(state);
-  const EditStep step(session, QStringLiteral("Set state"));
-  for (const auto& node : *nodes) session.hook().setStateFlag(node, flag, on);
-}
-
-NodeObject* group(EditSession& session) {
-  const auto nodes = selectedNodeList(session.scene());
-  const auto annotations = selectedAnnotationList(session.scene());
-  const QPointF centre = selectedBounds(session.scene()).center();
-  const EditStep step(session, QStringLiteral("Group"));
-  CommandHook::CompoundHandle made;
-  session.hook().createCompound("group", selectionOf(session, *nodes, *annotations), made);
-  if (!made) return nullptr;
-  NodeObject* node = EditSession::object(made->getAsNode());
-  setPosition(session, *node, centre - QPointF(60, 40));
-  return node;
-}
-
-void copySelection(EditSession& session) {
-  const auto nodes = selectedNodeList(session.scene());
-  const auto annotations = selectedAnnotationList(session.scene());
-  session.hook().copySelection(selectionOf(session, *nodes, *annotations));
-}
-
-void cutSelection(EditSession& session) {
-  const auto nodes = selectedNodeList(session.scene());
-  const auto annotations = selectedAnnotationList(session.scene());
-  const EditStep step(session, QStringLiteral("Cut"));
-  session.hook().cutSelection(selectionOf(session, *nodes, *annotations));
+  EditStep step(session, QStringLiteral("Set state"));
+  for (const auto& node : *nodes) step.require(session.hook().setStateFlag(node, flag, on));
 }
 
 }  // namespace orvuilib::edits

@@ -1,5 +1,7 @@
 #include "standalone/widgets/compound/edits/PortEdits.h"
 
+#include <algorithm>
+
 #include "platform/ORV_1_0/NewPortHints.h"
 #include "standalone/widgets/compound/edits/WireEdits.h"
 
@@ -47,11 +49,11 @@ void createLevelPort(EditSession& session, bool output, PortObject* like) {
     makePort(session, level, output, output ? "output" : "input", "float");
     return;
   }
-  const EditStep step(session, QStringLiteral("Add port"));
+  EditStep step(session, QStringLiteral("Add port"));
   PortObject* made = makePort(session, level, output, like->name(), typeFor(*like));
-  if (!made) return;
+  if (!step.require(made)) return;
   const auto joint = jointOf(*like, *made);
-  if (joint) connect(session, *joint->source, *joint->target);
+  if (joint) step.require(connect(session, *joint->source, *joint->target));
 }
 
 void createPort(EditSession& session, CompoundObject& compound, bool output, const QString& name,
@@ -77,14 +79,93 @@ void setPortHidden(EditSession& session, PortObject& port, bool hidden) {
   }
 }
 
+namespace {
+
+/// A top-level port with the rows of what is shown below it.
+struct Block {
+  PortObject* port;
+  qreal top;
+  qreal bottom;
+};
+
+/// Those that stand in one column with the port, from above; empty for a port without a row.
+std::vector<Block> columnOf(const BoxItem& box, const PortObject& port) {
+  const PortSlot* own = slotFor(box, port);
+  std::vector<Block> column;
+  if (!own || own->row < 0) return column;
+  for (const PortSlot& slot : box.portSlots) {
+    if (slot.left != own->left || slot.row < 0) continue;
+    const QRectF row = rowOf(box, slot);
+    if (slot.depth == 0) {
+      column.push_back({slot.port.get(), row.top(), row.bottom()});
+    } else {
+      column.back().bottom = row.bottom();
+    }
+  }
+  return column;
+}
+
+int indexIn(const std::vector<Block>& column, const PortObject& port) {
+  const auto found = std::ranges::find(column, &port.root(), &Block::port);
+  return static_cast<int>(found - column.begin());
+}
+
+/// The ports of an input or output node stand there in the order in which they came.
+void showInOrder(EditSession& session, orvlib::NodeObject& ioNode,
+                 const std::vector<PortObject*>& ports) {
+  EditStep step(session, QStringLiteral("Move port"));
+  const QString name = QString::fromStdString(ioNode.name());
+  for (PortObject* port : ports) {
+    session.hook().movePortToIONode(EditSession::handle(*port), name);
+    const PortListObject& list = port->isInput() ? ioNode.inputList() : ioNode.outputList();
+    step.require(list.at(list.count() - 1) == port);
+  }
+}
+
+/// From the first that changes its place on.
+void moveOnIoNode(EditSession& session, orvlib::NodeObject& ioNode,
+                  const std::vector<Block>& column, int from, int to) {
+  std::vector<PortObject*> ports;
+  for (const Block& block : column) ports.push_back(block.port);
+  const auto moved = ports.begin() + from;
+  if (from < to) std::rotate(moved, moved + 1, ports.begin() + to + 1);
+  if (from > to) std::rotate(ports.begin() + to, moved, moved + 1);
+  ports.erase(ports.begin(), ports.begin() + std::min(from, to));
+  showInOrder(session, ioNode, ports);
+}
+
+}  // namespace
+
 bool movePort(EditSession& session, PortObject& port, int places) {
-  if (!compoundOfPort(port)) return false;
-  PortListObject& list = listOf(port);
-  PortObject* outer = port.isInner() ? port.twin() : &port;
-  const int to = static_cast<int>(list.indexOf(outer)) + places;
-  if (places == 0 || to < 0 || to >= static_cast<int>(list.count())) return false;
-  session.hook().movePort(EditSession::handle(port), static_cast<unsigned int>(to));
+  const BoxItem* box = session.scene().find(port).box;
+  if (!box || !compoundOfPort(port)) return false;
+  const std::vector<Block> column = columnOf(*box, port);
+  const int last = static_cast<int>(column.size()) - 1;
+  const int from = indexIn(column, port);
+  const int to = std::clamp(from + places, 0, std::max(last, 0));
+  if (from > last || to == from) return false;
+  const auto kind = box->node->nodeKind();
+  const bool onBox = box->kind == BoxKind::Node;
+  if (onBox && (kind == orvlib::NodeKind::Input || kind == orvlib::NodeKind::Output)) {
+    moveOnIoNode(session, *box->node, column, from, to);
+    return true;
+  }
+  PortObject* other = column[static_cast<std::size_t>(to)].port;
+  PortObject* outer = other->isInner() ? other->twin() : other;
+  session.hook().movePort(EditSession::handle(port), listOf(port).indexOf(outer));
   return true;
+}
+
+PortDrop portDropAt(const BoxItem& box, const PortObject& port, qreal y) {
+  const std::vector<Block> column = columnOf(box, port);
+  const int from = indexIn(column, port);
+  if (from == static_cast<int>(column.size())) return {};
+  int to = 0;
+  for (const Block& block : column) {
+    if (block.port != &port.root() && (block.top + block.bottom) / 2 < y) ++to;
+  }
+  const Block& target = column[static_cast<std::size_t>(to)];
+  return {to - from, to > from ? target.bottom : target.top};
 }
 
 void setPortType(EditSession& session, PortObject& port, const QString& type) {
@@ -107,11 +188,11 @@ PortObject& watchedFace(PortObject& port) {
   return outer.isInput() ? outer : *outer.twin();
 }
 
-void toggleWatchPoint(EditSession& session, PortObject& port) {
+bool toggleWatchPoint(EditSession& session, PortObject& port) {
   PortObject& face = watchedFace(port);
   const auto operation =
       face.watchPoint() ? CommandHook::kRemoveWatchPoint : CommandHook::kCreateWatchPoint;
-  session.hook().editWatchPoint(operation, EditSession::handle(face), {}, {});
+  return session.hook().editWatchPoint(operation, EditSession::handle(face), {}, {});
 }
 
 }  // namespace orvuilib::edits

@@ -20,8 +20,17 @@ void renamePort(EditSession& session, orvlib::PortObject& port, const QString& n
 void deletePort(EditSession& session, orvlib::PortObject& port);
 void setPortHidden(EditSession& session, orvlib::PortObject& port, bool hidden);
 
-/// By so many places among the ports of its direction. False when it cannot go there.
-bool movePort(EditSession& session, orvlib::PortObject& port, int places);
+/// By so many places among those that stand with it in one column of a box, to the end at most;
+/// hidden ones and those on other boxes do not count. False when it is there already, and for a
+/// port that has no row.
+ORVUI_EXPORT bool movePort(EditSession& session, orvlib::PortObject& port, int places);
+
+/// Where a port comes to be that is let go at that height of its box.
+struct PortDrop {
+  int places = 0;  ///< what `movePort` is to be told
+  qreal line = 0;  ///< the height between the ports that it comes to stand between
+};
+ORVUI_EXPORT PortDrop portDropAt(const BoxItem& box, const orvlib::PortObject& port, qreal y);
 
 void setPortType(EditSession& session, orvlib::PortObject& port, const QString& type);
 void disconnectPort(EditSession& session, orvlib::PortObject& port);
@@ -29,7 +38,7 @@ void disconnectPort(EditSession& session, orvlib::PortObject& port);
 /// What a watch point for the port would be on: of a compound's port it is the face that a command
 /// means.
 orvlib::PortObject& watchedFace(orvlib::PortObject& port);
-void toggleWatchPoint(EditSession& session, orvlib::PortObject& port);
+bool toggleWatchPoint(EditSession& session, orvlib::PortObject& port);
 
 }  // namespace edits
 }  // namespace orvuilib

@@ -1,202 +1,55 @@
 #include "standalone/widgets/compound/edits/ScriptText.h"
 
-#include "standalone/graph/model/AnnotationObject.h"
+#include <QCryptographicHash>
+
 #include "standalone/graph/model/ContainerObject.h"
-#include "standalone/graph/model/StateFlagsObject.h"
-#include "standalone/graph/texts/ListText.h"
-#include "standalone/graph/texts/PropertiesText.h"
-#include "standalone/graph/types/ValueText.h"
+#include "standalone/widgets/compound/edits/ScriptWriter.h"
 
 namespace orvuilib {
 
-using orvlib::CompoundObject;
-using orvlib::NodeKind;
+using orvlib::AnnotationObject;
 using orvlib::NodeObject;
-using orvlib::NodeState;
-using orvlib::PortListObject;
-using orvlib::PortObject;
 
 namespace {
 
-/// The text in quotes, as the command language reads it.
-std::string quoted(const std::string& text) {
-  std::string quoted = "\"";
-  for (const char each : text) {
-    switch (each) {
-      case '"':
-      case '\\':
-        quoted += {'\\', each};
-        break;
-      case '\n':
-        quoted += "\\n";
-        break;
-      case '\t':
-        quoted += "\\t";
-        break;
-      case '\r':
-        quoted += "\\r";
-        break;
-      default:
-        quoted += each;
-    }
+/// What is selected, in the order of the level, so that the copies stand in it too.
+template <class Object, class List>
+std::vector<Object*> selectedIn(const LevelScene& scene, const List& list) {
+  std::vector<Object*> selected;
+  for (Object* object : list.items()) {
+    const auto* item = scene.find(object);
+    if (item && item->selected) selected.push_back(object);
   }
-  return quoted + '"';
+  return selected;
 }
 
-/// The name that a node gets when it is added: the last part of its type, with the smallest free
-/// number when that is taken.
-std::string nameAtStart(const NodeObject& node, const QSet<QString>& taken) {
-  const std::string type = node.typeName();
-  const auto last = type.rfind("::");
-  const std::string plain = last == type.npos ? type : type.substr(last + 2);
-  std::string name = plain;
-  for (int i = 1; taken.contains(QString::fromStdString(name)); ++i) {
-    name = plain + std::to_string(i);
-  }
-  return name;
+/// No graph has a node of that name, unless these very lines were run there and did not end.
+std::string scratchName(const std::string& text) {
+  const QByteArray bytes = QByteArray::fromStdString(text);
+  const QByteArray hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
+  return "copied_" + hash.left(12).toStdString();
 }
 
-std::vector<NodeObject*> nodesOf(const CompoundObject& level) {
-  std::vector<NodeObject*> nodes;
-  for (NodeObject* node : level.nodes().items()) nodes.push_back(node);
-  return nodes;
+std::string linesIn(const LevelScene& scene, const std::string& scratch) {
+  const std::string level = scene.levelNode()->fullPath();
+  const orvlib::CompoundObject& compound = *scene.level();
+  ScriptWriter writer(scene.levelNode()->container()->containerName());
+  writer.line("orvCompound", level, "-create " + quoted(scratch));
+  writer.write((level == "/" ? level : level + '/') + scratch,
+               selectedIn<NodeObject>(scene, compound.nodes()),
+               selectedIn<AnnotationObject>(scene, compound.annotations()));
+  writer.line("orvCompound", level, "-explode " + quoted(scratch));
+  return writer.take();
 }
-
-/// Writes one level after the other.
-class ScriptWriter {
- public:
-  explicit ScriptWriter(const std::string& container) : container_(quoted(container)) {}
-
-  void writeLevel(const std::string& path, const std::vector<NodeObject*>& nodes) {
-    QSet<QString> taken;
-    for (NodeObject* node : nodes) writeNode(path, *node, taken);
-    for (NodeObject* node : nodes) writeWires(*node, nodes);
-  }
-
-  std::string take() { return std::move(text_); }
-
- private:
-  void line(const char* command, const std::string& path, const std::string& rest) {
-    text_ += std::string(command) + ' ' + container_ + ' ' + quoted(path) + ' ' + rest + '\n';
-  }
-
-  void writeNode(const std::string& level, NodeObject& node, QSet<QString>& taken) {
-    add(level, node, taken);
-    taken.insert(QString::fromStdString(node.name()));
-    const std::string path = node.fullPath();
-    if (CompoundObject* compound = node.compound()) {
-      writePorts(path, node);
-      writeLevel(path, nodesOf(*compound));
-      writeInnerWires(*compound);
-    }
-    writeValues(path, node.inputList());
-    writeValues(path, node.outputList());
-    for (const NodeState state : {NodeState::Enabled, NodeState::Frozen, NodeState::Bypassed}) {
-      if (node.is(state) == (state == NodeState::Enabled)) continue;
-      const std::string key(1, orvlib::StateFlagsObject::keyOf(state));
-      line("orvNode", path, "-setStateFlag " + quoted(key) + (node.is(state) ? " true" : " false"));
-    }
-    if (node.metadata().empty()) return;
-    line("orvNode", path,
-         "-setMetaDataFromString " + quoted(orvlib::writeProperties(node.metadata())));
-  }
-
-  void add(const std::string& level, const NodeObject& node, const QSet<QString>& taken) {
-    std::string given;
-    if (node.nodeKind() == NodeKind::Compound) {
-      given = node.name();
-      line("orvCompound", level, "-create " + quoted(given));
-    } else if (node.hasOwnPorts()) {
-      given = nameAtStart(node, taken);
-      line("orvCompound", level, "-addNode " + quoted(node.typeName()));
-    } else {
-      given = nameAtStart(node, taken);
-      const bool input = node.nodeKind() == NodeKind::Input;
-      line("orvCompound", level, std::string("-addIONode ") + (input ? "true" : "false"));
-    }
-    if (given == node.name()) return;
-    line("orvCompound", level, "-renameNode " + quoted(given) + ' ' + quoted(node.name()));
-  }
-
-  void writePorts(const std::string& path, NodeObject& node) {
-    const auto write = [this, &path](const PortListObject& ports, const char* flag) {
-      for (const PortObject* port : ports.items()) {
-        std::string rest = flag + quoted(port->name()) + ' ' + quoted(port->valueType().name);
-        if (port->flags()) rest += " -portFlags " + std::to_string(port->flags());
-        line("orvCompound", path, rest);
-      }
-    };
-    write(node.inputList(), "-createInputPort ");
-    write(node.outputList(), "-createOutputPort ");
-  }
-
-  void writeValues(const std::string& path, const PortListObject& ports) {
-    for (const PortObject* port : ports.items()) {
-      if (!port->ownValue() || !port->isSettable() || port->isInner()) continue;
-      const auto texts = orvlib::printValue(*port->ownValue());
-      const char* command = port->node()->compound() ? "orvCompound" : "orvNode";
-      line(
-          command, path,
-          "-setPortDefaultValues " + quoted(port->name()) + ' ' + quoted(orvlib::writeList(texts)));
-    }
-  }
-
-  void writeWires(const NodeObject& node, const std::vector<NodeObject*>& nodes) {
-    const QSet<const NodeObject*> among(nodes.begin(), nodes.end());
-    for (PortObject* input : node.inputList().items()) {
-      if (!input->isInner()) writeWiresInto(*input, &among);
-    }
-  }
-
-  /// Into the compound's outputs, and out of its inputs.
-  void writeInnerWires(CompoundObject& compound) {
-    for (PortObject* output : compound.outputs().items()) writeWiresInto(*output, nullptr);
-    for (PortObject* input : compound.inputs().items()) {
-      for (PortObject* target : input->peers().items()) {
-        // Those straight to an output are written already.
-        if (!target->isInner()) connect(*input, *target);
-      }
-    }
-  }
-
-  void writeWiresInto(PortObject& target, const QSet<const NodeObject*>* among) {
-    for (PortObject* source : target.peers().items()) {
-      if (!among || (among->contains(source->node()) && !source->isInner())) {
-        connect(*source, target);
-      }
-    }
-    if (const PortListObject* children = target.madeChildren()) {
-      for (PortObject* child : children->items()) writeWiresInto(*child, among);
-    }
-  }
-
-  /// A member of a fan-in port comes with its connection.
-  void connect(const PortObject& source, const PortObject& target) {
-    const bool member = target.kind() == orvlib::PortKind::Member;
-    const PortObject& into = member ? *target.above() : target;
-    text_ += "orvConnect " + container_ + ' ' + quoted(source.fullPath()) + ' ' +
-             quoted(into.fullPath()) + '\n';
-  }
-
-  std::string container_;
-  std::string text_;
-};
 
 }  // namespace
 
+/// The lines build in a compound of their own, where every name is free, and let it go at the end:
+/// what it holds gets free names then.
 QString selectionAsScript(const LevelScene& scene) {
-  if (scene.selectedBoxes().empty()) return {};
-  const orvlib::ContainerObject* container = scene.levelNode()->container();
-  if (!container) return {};
-  // In the order of the level, so that the copies stand in it too.
-  std::vector<NodeObject*> nodes;
-  for (NodeObject* node : scene.level()->nodes().items()) {
-    const BoxItem* box = scene.find(node);
-    if (box && box->selected) nodes.push_back(node);
-  }
-  ScriptWriter writer(container->containerName());
-  writer.writeLevel(scene.levelNode()->fullPath(), nodes);
-  return QString::fromStdString(writer.take());
+  if (scene.selectedBoxes().empty() && scene.selectedNotes().empty()) return {};
+  if (!scene.levelNode()->container()) return {};
+  return QString::fromStdString(linesIn(scene, scratchName(linesIn(scene, "copied"))));
 }
 
 }  // namespace orvuilib

@@ -132,36 +132,44 @@ bool fitsDefinition(PortObject& port, const orvlib::NodeDescription& definition)
   });
 }
 
-void connect(EditSession& session, PortObject& source, PortObject& target) {
-  session.hook().connectPorts(EditSession::handle(source), EditSession::handle(target), false);
+bool connect(EditSession& session, PortObject& source, PortObject& target) {
+  return session.hook().connectPorts(EditSession::handle(source), EditSession::handle(target),
+                                     false);
 }
 
-void connectToFirstFitting(EditSession& session, PortObject& port, NodeObject& node) {
+bool connectToFirstFitting(EditSession& session, PortObject& port, NodeObject& node) {
   PortObject* fitting = firstFitting(port, node);
-  if (!fitting) return;
+  if (!fitting) return true;
   const auto joint = jointOf(port, *fitting);
-  connect(session, *joint->source, *joint->target);
+  return connect(session, *joint->source, *joint->target);
 }
+
+namespace {
+
+bool disconnect(EditSession& session, const Joint& joint) {
+  return session.hook().disconnectPorts(EditSession::handle(*joint.source),
+                                        EditSession::handle(*joint.target));
+}
+
+}  // namespace
 
 void makeWire(EditSession& session, const Joint& joint) {
   connect(session, *joint.source, *joint.target);
 }
 
 void removeWires(EditSession& session, const std::vector<Joint>& joints) {
-  const auto remove = [&session](const Joint& joint) {
-    session.hook().disconnectPorts(EditSession::handle(*joint.source),
-                                   EditSession::handle(*joint.target));
-  };
-  if (joints.size() == 1) return remove(joints.front());
-  const EditStep step(session, QStringLiteral("Disconnect"));
-  for (const Joint& joint : joints) remove(joint);
+  if (joints.size() == 1) {
+    disconnect(session, joints.front());
+    return;
+  }
+  EditStep step(session, QStringLiteral("Disconnect"));
+  for (const Joint& joint : joints) step.require(disconnect(session, joint));
 }
 
 void moveWire(EditSession& session, const Joint& from, const Joint& to) {
-  const EditStep step(session, QStringLiteral("Move wire"));
-  session.hook().disconnectPorts(EditSession::handle(*from.source),
-                                 EditSession::handle(*from.target));
-  connect(session, *to.source, *to.target);
+  EditStep step(session, QStringLiteral("Move wire"));
+  step.require(disconnect(session, from));
+  step.require(connect(session, *to.source, *to.target));
 }
 
 bool canInsert(const Wire& wire, NodeObject& node) {
@@ -176,34 +184,51 @@ bool canInsert(const Wire& wire, NodeObject& node) {
 }
 
 /// The new wire into the target takes the place of the one that was there.
-void insertNode(EditSession& session, const Wire& wire, NodeObject& node) {
+bool insertNode(EditSession& session, const Wire& wire, NodeObject& node) {
   const PortRef source = wire.source;
   const PortRef target = wire.target;
   PortObject* input = firstFitting(*source, node);
   PortObject* output = firstFitting(*target, node);
-  if (!input || !output) return;
-  connect(session, *source, *input);
-  connect(session, *output, *target);
+  if (!input || !output) return false;
+  return connect(session, *source, *input) && connect(session, *output, *target);
 }
 
 void insertIntoWire(EditSession& session, const Wire& wire, NodeObject& node) {
-  const EditStep step(session, QStringLiteral("Insert"));
-  insertNode(session, wire, node);
+  EditStep step(session, QStringLiteral("Insert"));
+  step.require(insertNode(session, wire, node));
 }
 
+namespace {
+
+/// Where the value of the removed nodes before the wire came from; null when it ends there.
+PortObject* sourceBefore(const LevelScene& scene, const Wire& wire) {
+  PortObject* source = wire.source.get();
+  // Each step goes to another node that goes; there are no circles.
+  while (source) {
+    const BoxItem* giver = scene.find(*source).box;
+    if (!giver || !giver->selected) return source;
+    source = passedOn(*giver->node, *wire.target);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+/// A member of a fan-in port goes with its wire: the fan-in port gets another one.
 std::vector<Joint> jointsAround(const LevelScene& scene) {
   std::vector<Joint> joints;
+  QSet<std::pair<const PortObject*, const PortObject*>> made;
   for (const BoxItem* box : scene.selectedBoxes()) {
     for (const Wire* wire : box->leaving) {
       if (wire->to->selected) continue;
-      PortObject* source = wire->source.get();
-      // Each step goes to another node that goes; there are no circles.
-      while (source) {
-        const BoxItem* giver = scene.find(*source).box;
-        if (!giver || !giver->selected) break;
-        source = passedOn(*giver->node, *wire->target);
-      }
-      if (source) joints.push_back({PortRef(source), wire->target});
+      PortObject* source = sourceBefore(scene, *wire);
+      const bool member = wire->target->kind() == orvlib::PortKind::Member;
+      PortObject* target = member ? wire->target->above() : wire->target.get();
+      if (!source || !carries(*source, *target)) continue;
+      const std::pair<const PortObject*, const PortObject*> ends(source, target);
+      if (made.contains(ends)) continue;
+      made.insert(ends);
+      joints.push_back({PortRef(source), PortRef(target)});
     }
   }
   return joints;

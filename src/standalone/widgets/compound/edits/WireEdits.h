@@ -52,11 +52,13 @@ void insertIntoWire(EditSession& session, const Wire& wire, orvlib::NodeObject& 
 /// went.
 std::vector<Joint> jointsAround(const LevelScene& scene);
 
-// Parts of other edits; they open no step.
-void connect(EditSession& session, orvlib::PortObject& source, orvlib::PortObject& target);
-void connectToFirstFitting(EditSession& session, orvlib::PortObject& port,
+// Parts of other edits; they open no step. True when the graph is as it was asked for.
+bool connect(EditSession& session, orvlib::PortObject& source, orvlib::PortObject& target);
+
+/// Also when no port fits: then nothing is to be done.
+bool connectToFirstFitting(EditSession& session, orvlib::PortObject& port,
                            orvlib::NodeObject& node);
-void insertNode(EditSession& session, const Wire& wire, orvlib::NodeObject& node);
+bool insertNode(EditSession& session, const Wire& wire, orvlib::NodeObject& node);
 
 }  // namespace edits
 }  // namespace orvuilib

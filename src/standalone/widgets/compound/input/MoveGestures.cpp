@@ -1,7 +1,6 @@
 // Gestures that move things: boxes and notes, the corner of a note, a port among its like.
 
 #include <QSet>
-#include <cmath>
 
 #include "standalone/widgets/compound/edits/PortEdits.h"
 #include "standalone/widgets/compound/edits/WireEdits.h"
@@ -138,14 +137,15 @@ class Resize final : public Gesture {
 class PortMove final : public Gesture {
  public:
   PortMove(Workbench& bench, orvlib::PortObject& port, const QPointF& start)
-      : Gesture(bench), port_(&port), start_(start), at_(start) {}
+      : Gesture(bench), port_(&port), at_(start) {}
 
   void move(const QPointF& point, Qt::KeyboardModifiers) override {
     at_ = point;
     bench_.canvas.update();
   }
   void finish(const QPointF& point, Qt::KeyboardModifiers) override {
-    const int places = static_cast<int>(std::round((point.y() - start_.y()) / box::kRow));
+    const BoxItem* box = bench_.scene.find(*port_).box;
+    const int places = box ? edits::portDropAt(*box, *port_, point.y()).places : 0;
     if (places != 0 && bench_.canEdit()) edits::movePort(bench_.session, *port_, places);
     bench_.canvas.update();
   }
@@ -155,11 +155,15 @@ class PortMove final : public Gesture {
     painter.setFont(bench_.scene.theme().font());
     painter.setPen(bench_.scene.theme().palette().selected);
     painter.drawText(at_ + QPointF(10, 4), QString::fromStdString(port_->name()));
+    const BoxItem* box = bench_.scene.find(*port_).box;
+    const edits::PortDrop drop = box ? edits::portDropAt(*box, *port_, at_.y()) : edits::PortDrop();
+    if (drop.places == 0) return;
+    painter.setPen(QPen(bench_.scene.theme().palette().selected, 2));
+    painter.drawLine(QLineF(box->bounds.left(), drop.line, box->bounds.right(), drop.line));
   }
 
  private:
   orvlib::PortRef port_;
-  QPointF start_;
   QPointF at_;
 };
 

@@ -67,6 +67,11 @@ QRectF LevelScene::followNode(NodeObject& node, unsigned char bits) {
   if (bits & kLooks) {
     touched |= showsCompoundPorts(node) ? refreshFaces(orvlib::kPortChange) : refresh(*box);
   }
+  if (bits & orvlib::kPortChange) {
+    // A port may have got another type.
+    for (Wire* wire : box->leaving) setColour(*wire);
+    touched |= reachOf(*box);
+  }
   if (bits & orvlib::kMetadataChange) touched |= followPosition(*box);
   return touched;
 }

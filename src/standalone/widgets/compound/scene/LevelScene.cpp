@@ -74,6 +74,7 @@ std::unique_ptr<BoxItem> LevelScene::makeBoundary(BoxKind kind) {
 void LevelScene::placeBoundaries() {
   QRectF content;
   forEachBox([&content](const BoxItem& box) { content |= box.bounds; });
+  forEachNote([&content](const NoteItem& note) { content |= note.bounds; });
   if (content.isNull()) content = QRectF(-100, -60, 200, 120);
   const auto place = [this, &content](BoxItem& box, const char* key, qreal x) {
     const auto stored = placement::pointIn(level()->metadata(), key);

@@ -106,6 +106,7 @@ class ORVUI_EXPORT LevelScene {
   void removeWires(BoxItem& box);
   void addArrivingWires(BoxItem& box);
   void addLeavingWires(BoxItem& box);
+  void setColour(Wire& wire) const;
   void setEnds(Wire& wire);
   QRectF rewireArriving(BoxItem& box);
   BoxItem* boxOf(const orvlib::PortObject& port) const;

@@ -60,11 +60,16 @@ void LevelScene::addWire(PortObject& source, PortObject& target) {
   wire->to = to.box;
   wire->indexAtFrom = static_cast<std::uint32_t>(from.box->leaving.size());
   wire->indexAtTo = static_cast<std::uint32_t>(to.box->arriving.size());
-  wire->colour = theme_.typeColour(source.valueType().name).rgb();
+  setColour(*wire);
   from.box->leaving.push_back(wire);
   to.box->arriving.push_back(wire);
   ++wireCount_;
   setEnds(*wire);
+}
+
+/// That of the type of what it carries.
+void LevelScene::setColour(Wire& wire) const {
+  wire.colour = theme_.typeColour(wire.source->valueType().name).rgb();
 }
 
 void LevelScene::removeWire(Wire& wire) {

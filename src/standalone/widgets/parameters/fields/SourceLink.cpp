@@ -15,7 +15,7 @@ namespace {
 void selectNodeOf(const PortRef& source) {
   orvlib::NodeObject* node = source->node();
   if (!node || !node->container()) return;
-  SelectionModel::instance().select({ORV_v1::AddRefWrapper<ORV_v1::Node>(node)});
+  SelectionModel::instance().reveal(ORV_v1::AddRefWrapper<ORV_v1::Node>(node));
 }
 
 QString pathText(const PortRef& source) { return toText(source->fullPath()); }
