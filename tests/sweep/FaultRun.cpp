@@ -24,7 +24,8 @@ const std::vector<std::regex>& statedErrors() {
           "Failed to create compound", "The node path .* was not found",
           "Compound named .* cannot be reset to factory", "The compound is not editable",
           ".* expects type .*",
-          "(undo|redo) of \".*\": .* of .* edits refused; the others were carried out"}) {
+          "(undo|redo) of \".*\": .* of .* edits refused; the others were carried out",
+          "The compound '.*' cannot be (published as '.*'|saved): the library refused it\\."}) {
       errors.emplace_back("! " + std::string(text));
     }
     return errors;
@@ -38,19 +39,30 @@ bool isStated(const std::string& message) {
   });
 }
 
+std::string sceneText(TranscriptRun& run) {
+  return vesk::writeSceneText(run.platform().session().scene());
+}
+
+std::string messagesOf(const LineOutcome& outcome) {
+  std::string text;
+  for (const std::string& message : outcome.messages) text += "; " + message;
+  return text;
+}
+
 /// All steps undone, then done again.
 std::string thereAndBack(TranscriptRun& run) {
   vesk::UndoQueue& queue = run.platform().session().undoQueue();
-  const std::string before = vesk::writeSceneText(run.platform().session().scene());
+  const std::string before = sceneText(run);
   std::size_t steps = 0;
   for (; queue.doneCount() > 0; ++steps) {
-    if (run.run("undo").status != 0) return "a step cannot be undone";
+    const LineOutcome outcome = run.run("undo");
+    if (outcome.status != 0) return "a step cannot be undone" + messagesOf(outcome);
   }
   for (; steps > 0; --steps) {
-    if (run.run("redo").status != 0) return "a step cannot be done again";
+    const LineOutcome outcome = run.run("redo");
+    if (outcome.status != 0) return "a step cannot be done again" + messagesOf(outcome);
   }
-  const std::string after = vesk::writeSceneText(run.platform().session().scene());
-  return before == after ? "" : "undone and done again, the scene is another";
+  return before == sceneText(run) ? "" : "undone and done again, the scene is another";
 }
 
 /// A small graph of one's own, built, undone and built again in a new scene.
@@ -67,12 +79,14 @@ std::string isUsable(TranscriptRun& run) {
 
 /// The line in which the fault came: as it would have been, or refused by the rules of its command.
 /// Brackets and chunks are as ahead of it, or as it leaves them when nothing fails.
-std::string judgeFault(const LineOutcome& before, const LineOutcome& now,
+std::string judgeFault(const std::string& line, const LineOutcome& before, const LineOutcome& now,
                        const LineOutcome& normal) {
   if (now.hasOpenChunk != before.hasOpenChunk && now.hasOpenChunk != normal.hasOpenChunk) {
     return "it leaves a chunk open";
   }
-  if (now.brackets != before.brackets && now.brackets != normal.brackets) {
+  // Of several undos in a line, one that is refused leaves a bracket to those behind it.
+  const bool several = line.find(';') != std::string::npos;
+  if (!several && now.brackets != before.brackets && now.brackets != normal.brackets) {
     return "it leaves a bracket open";
   }
   for (const std::string& message : now.messages) {
@@ -82,6 +96,18 @@ std::string judgeFault(const LineOutcome& before, const LineOutcome& now,
     }
   }
   return {};
+}
+
+/// An undo that was refused has left its edits in place, and a line that failed keeps what it did
+/// before: then nothing can be compared. A line that went on without what was refused has that too
+/// when it is done again, from then on for good.
+std::string judgeHistory(TranscriptRun& run, const std::string& sceneBefore) {
+  const std::string& line = run.lines()[run.outcomes().size() - 1];
+  if (line.starts_with("undo") || line.starts_with("redo")) return {};
+  const bool succeeded = run.outcomes().back().status == 0;
+  if (!succeeded && sceneText(run) != sceneBefore) return {};
+  if (succeeded) thereAndBack(run);
+  return thereAndBack(run);
 }
 
 std::string at(std::size_t line, const TranscriptRun& run, const std::string& problem) {
@@ -107,28 +133,30 @@ Reference runReference(TranscriptRun& run) {
 std::string runWithFault(TranscriptRun& run, unsigned nth, const Reference& reference) {
   FaultPoints::armAny(nth);
   LineOutcome before;
-  while (!FaultPoints::refused() && run.next()) {
+  std::string scene;
+  while (!FaultPoints::refused()) {
+    scene = sceneText(run);
+    if (!run.next()) return "the fault never came";
     const std::size_t line = run.outcomes().size() - 1;
     const LineOutcome& now = run.outcomes().back();
     const LineOutcome& normal = reference.outcomes[line];
     std::string problem;
     if (FaultPoints::refused()) {
-      problem = judgeFault(before, now, normal);
+      problem = judgeFault(run.lines()[line], before, now, normal);
     } else if (now != normal) {
       problem = "it does not do the same each time";
     }
     if (!problem.empty()) return at(line, run, problem);
     before = now;
   }
-  if (!FaultPoints::refused()) return "the fault never came";
   FaultPoints::disarm();
-  // An undo that was refused has left its edits in place: what can be compared ends there.
-  const std::string& last = run.lines()[run.outcomes().size() - 1];
-  const bool comparable = reference.repeats && last != "undo" && last != "redo";
+  if (run.platform().session().quitRequested) return {};
+  const std::size_t line = run.outcomes().size() - 1;
+  std::string problem = reference.repeats ? judgeHistory(run, scene) : "";
+  if (!problem.empty()) return at(line, run, problem);
   // What follows stands on other ground, but must run.
   while (run.next()) {
   }
-  if (run.platform().session().quitRequested) return {};
-  std::string problem = comparable ? thereAndBack(run) : "";
-  return problem.empty() && reference.usable ? isUsable(run) : problem;
+  const bool quit = run.platform().session().quitRequested;
+  return reference.usable && !quit ? isUsable(run) : "";
 }
