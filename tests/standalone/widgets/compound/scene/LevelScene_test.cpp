@@ -27,7 +27,7 @@ class LevelSceneTest : public CommandTest, private orvlib::ChangeListener {
 
   Theme theme{1};
   LevelScene scene;
-  QRectF touched;
+  Areas touched;
 };
 
 std::string textOf(const BoxItem& box) {
@@ -119,7 +119,7 @@ TEST_F(LevelSceneTest, AnEditOfOneNodeTouchesItsPartAlone) {
   host.run("orvNode g /add -setMetaData editor.position 0,0");
   host.run("orvNode g /add1 -setMetaData editor.position 5000,5000");
   host.run("orvNode g /add -setPortDefaultValues a 2");
-  EXPECT_EQ(touched, box("/add")->bounds);
+  EXPECT_EQ(touched.bounds(), box("/add")->bounds);
 }
 
 TEST_F(LevelSceneTest, WhatHasNoPlaceStandsInColumnsByItsWires) {
