@@ -16,6 +16,17 @@ QRgb mixed(QRgb below, QRgb colour, int share) {
   return 0xff000000u | (mixedRedAndBlue & 0xff00ff) | (mixedGreen & 0x00ff00);
 }
 
+bool isSteep(const QPointF& from, const QPointF& to) {
+  return std::abs(to.y() - from.y()) > std::abs(to.x() - from.x());
+}
+
+/// Where a line goes on in columns of the other direction, what lies between them is to be filled.
+QPointF extended(const QPointF& from, const QPointF& to, qreal by) {
+  const QPointF along = to - from;
+  const qreal length = std::hypot(along.x(), along.y());
+  return length > 0 ? to + along * (by / length) : to;
+}
+
 }  // namespace
 
 /// A straight piece, as seen along the direction in which it is the longer: it is a row of columns,
@@ -41,7 +52,10 @@ WireRaster::WireRaster(QImage& picture, const QRect& clip)
 void WireRaster::drawLine(std::span<const QPointF> points, qreal width, QRgb colour) {
   if (clip_.isEmpty()) return;
   for (std::size_t i = 1; i < points.size(); ++i) {
-    drawPiece(points[i - 1], points[i], width, colour);
+    const bool turns = i + 1 < points.size() &&
+                       isSteep(points[i - 1], points[i]) != isSteep(points[i], points[i + 1]);
+    const QPointF end = turns ? extended(points[i - 1], points[i], width / 2) : points[i];
+    drawPiece(points[i - 1], end, width, colour);
   }
 }
 
@@ -59,7 +73,7 @@ void WireRaster::fillRect(const QRectF& area, QRgb colour) {
 /// A column belongs to the piece that its middle is in, so that pieces that follow one another
 /// never paint one twice.
 void WireRaster::drawPiece(const QPointF& from, const QPointF& to, qreal width, QRgb colour) {
-  const bool steep = std::abs(to.y() - from.y()) > std::abs(to.x() - from.x());
+  const bool steep = isSteep(from, to);
   const auto turned = [steep](const QPointF& point) { return steep ? point.transposed() : point; };
   QPointF start = turned(from);
   QPointF end = turned(to);

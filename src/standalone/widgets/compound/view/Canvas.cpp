@@ -219,19 +219,25 @@ QRect Canvas::noticeArea() const {
 void Canvas::paintNotice(QPainter& painter) {
   const Theme& theme = scene_.theme();
   painter.setFont(theme.widgetFont());
-  painter.setPen(theme.palette().quietText);
   if (!scene_.levelNode()) {
+    painter.setPen(theme.palette().quietText);
     painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("No graph"));
     return;
   }
-  QRectF area = noticeArea();
   const QString& text = notice_.isEmpty() ? readOnly_ : notice_;
-  if (!readOnly_.isEmpty()) {
-    paintLock(painter, {area.left(), area.top(), area.height(), area.height()}, theme);
-    area.adjust(area.height() + theme.pixels(2), 0, 0, 0);
-  }
-  painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
-                   painter.fontMetrics().elidedText(text, Qt::ElideRight, int(area.width())));
+  if (text.isEmpty()) return;
+  QRect area = noticeArea();
+  const int lock = readOnly_.isEmpty() ? 0 : area.height();
+  const int inset = theme.pixels(8);
+  const int room = area.width() - lock - 2 * inset;
+  const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, room);
+  area.setWidth(painter.fontMetrics().horizontalAdvance(shown) + lock + 2 * inset);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(theme.palette().panel);
+  painter.drawRoundedRect(area, inset / 2.0, inset / 2.0);
+  if (lock) paintLock(painter, QRectF(area.left() + inset / 2.0, area.top(), lock, lock), theme);
+  painter.setPen(theme.palette().quietText);
+  painter.drawText(area.adjusted(inset + lock, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, shown);
 }
 
 }  // namespace orvuilib

@@ -52,6 +52,14 @@ TEST_F(WireRasterTest, ALineOfManyPiecesPaintsNoColumnTwice) {
   }
 }
 
+TEST_F(WireRasterTest, ACornerOfAWideLineIsFull) {
+  const std::array points{QPointF(10, 20), QPointF(50, 20), QPointF(50, 60), QPointF(90, 70)};
+  WireRaster(picture, picture.rect()).drawLine(points, 6, 0xffffffff);
+  for (const QPoint& corner : {QPoint(51, 18), QPoint(48, 21), QPoint(48, 61)}) {
+    EXPECT_EQ(qGreen(picture.pixel(corner)), 255) << corner.x() << ',' << corner.y();
+  }
+}
+
 TEST_F(WireRasterTest, NothingIsPaintedBesideTheClip) {
   const QRect clip(20, 10, 30, 25);
   for (int angle = 0; angle < 360; angle += 7) {
