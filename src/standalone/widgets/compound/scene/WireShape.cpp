@@ -91,7 +91,7 @@ std::span<const QPointF> wirePoints(const QPointF& start, const QPointF& end, Wi
     return between(3);
   }
   const QPointF reach(wireReach(start, end, zoom), 0);
-  const qreal wanted = std::sqrt((end - start).manhattanLength()) * 0.8;
+  const qreal wanted = std::sqrt((end - start).manhattanLength()) * 1.2;
   const int count = static_cast<int>(std::clamp<qreal>(wanted, 8, points.size() - 1));
   for (int i = 1; i < count; ++i) {
     points[static_cast<std::size_t>(i)] = onCurve(start, end, reach, qreal(i) / count);
