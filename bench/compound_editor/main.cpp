@@ -1,120 +1,175 @@
 // What the compound editor costs, offscreen: opening a level, painting it, panning and zooming,
-// selecting and moving. compound_editor [NODES...]
+// selecting, moving and editing. compound_editor [NODES...]
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <ctime>
-#include <functional>
-#include <vector>
 
+#include "bench/compound_editor/Report.h"
 #include "bench/compound_editor/World.h"
 #include "standalone/graph/model/ContainerObject.h"
 
 namespace {
 
-/// Of the processor: other programs may be busy too.
-double now() {
-  timespec time{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
+using orvuilib::BoxItem;
 
-double milliseconds(const std::function<void()>& work) {
-  const double start = now();
-  work();
-  return now() - start;
-}
-
-void print(const char* what, double time) { std::printf("  %-44s %9.2f ms\n", what, time); }
-
-void printFrames(const char* what, std::vector<double> frames) {
-  std::ranges::sort(frames);
-  std::printf("  %-44s %9.2f ms  %9.2f ms\n", what, frames[frames.size() / 2],
-              frames[frames.size() * 95 / 100]);
-}
-
-std::vector<double> panFrames(orvuilib::Canvas& canvas, int count) {
-  std::vector<double> frames;
-  for (int i = 0; i < count; ++i) {
-    frames.push_back(milliseconds([&canvas, i] {
-      canvas.panBy({std::cos(i * 0.3) * 23, std::sin(i * 0.3) * 17});
-      canvas.repaint();
-    }));
+/// One editor of one graph.
+class Measuring {
+ public:
+  Measuring(Report& report, int nodes) : report_(report), world_(nodes), editor_(nullptr) {
+    editor_.resize(1600, 1030);
+    editor_.show();
+    QApplication::processEvents();
+    report.begin(nodes);
   }
-  return frames;
-}
 
-std::vector<double> zoomFrames(orvuilib::Canvas& canvas, int count) {
-  std::vector<double> frames;
-  for (int i = 0; i < count; ++i) {
-    frames.push_back(milliseconds([&canvas, i] {
-      canvas.setZoom(canvas.zoom() * (i / 5 % 2 ? 1.03 : 1 / 1.03), {800, 500});
-      canvas.repaint();
-    }));
+  void run() {
+    report_.add("open a level", milliseconds([&] { editor_.editCompound(world_.top()); }));
+    report_.add("first frame", milliseconds([&] { paint(); }));
+    views();
+    edits();
+    hover();
+    drag();
+    everything();
   }
-  return frames;
-}
 
-/// About a hundred nodes of the grid.
-void showAHundred(orvuilib::Canvas& canvas) {
-  canvas.setZoom(0.85, {});
-  canvas.centreOn({3000, 2000});
-  canvas.repaint();
-}
+ private:
+  orvuilib::Canvas& canvas() { return editor_.canvas(); }
+  void paint() { canvas().repaint(); }
 
-void measureViews(orvuilib::CompoundEditorWidget& editor) {
-  orvuilib::Canvas& canvas = editor.canvas();
-  editor.sendKeyEvent(Qt::Key_A, {});
-  printFrames("pan, everything in view", panFrames(canvas, 40));
-  printFrames("zoom, everything in view", zoomFrames(canvas, 20));
-  showAHundred(canvas);
-  printFrames("pan, about a hundred nodes in view", panFrames(canvas, 200));
-  std::printf("  (%zu nodes and %zu wires drawn last)\n", canvas.lastDrawn().boxes,
-              canvas.lastDrawn().wires);
-  printFrames("zoom, about a hundred nodes in view", zoomFrames(canvas, 100));
-}
-
-void selectFirst(orvuilib::CompoundEditorWidget& editor, World& world, int count) {
-  auto list = ORV_v1::NodeList::createNew(nullptr);
-  const auto& nodes = world.top()->asCompound()->getChildNodes();
-  for (int i = 0; i < count; ++i) list->add(nodes[static_cast<unsigned>(i)]);
-  editor.setSelectedNodes(list);
-}
-
-void measureEdits(orvuilib::CompoundEditorWidget& editor, World& world) {
-  showAHundred(editor.canvas());
-  std::vector<double> frames;
-  for (int i = 0; i < 100; ++i) {
-    frames.push_back(milliseconds([&] {
-      world.run("orvNode g /add" + std::to_string(200 + i) + " -setPortDefaultValues b " +
-                std::to_string(i + 1));
-      QApplication::processEvents();
-    }));
+  /// About a hundred nodes of the grid.
+  void showAHundred() {
+    canvas().setZoom(0.85, {});
+    canvas().centreOn({3000, 2000});
+    QApplication::processEvents();
   }
-  printFrames("a value set, and painted", frames);
-  print("select all", milliseconds([&] { editor.sendKeyEvent(Qt::Key_A, Qt::ControlModifier); }));
-  selectFirst(editor, world, 500);
-  print("500 nodes moved", milliseconds([&] { editor.sendKeyEvent(Qt::Key_Right, {}); }));
-  print("undo of it", milliseconds([&] { world.run("undo"); }));
-  editor.sendKeyEvent(Qt::Key_A, Qt::ControlModifier);
-  print("everything deleted", milliseconds([&] { editor.sendKeyEvent(Qt::Key_Delete, {}); }));
-  print("undo of it", milliseconds([&] { world.run("undo"); }));
-}
 
-void measure(int nodes) {
-  World world(nodes);
-  orvuilib::CompoundEditorWidget editor(nullptr);
-  editor.resize(1600, 1030);
-  editor.show();
-  QApplication::processEvents();
-  std::printf("%d nodes, %d wires\n", nodes, 2 * nodes - 2);
-  print("opened", milliseconds([&] { editor.editCompound(world.top()); }));
-  print("first frame", milliseconds([&] { editor.canvas().repaint(); }));
-  measureViews(editor);
-  measureEdits(editor, world);
-}
+  std::vector<double> frames(int count, const std::function<void(int)>& step) {
+    std::vector<double> times;
+    for (int i = 0; i < count; ++i) times.push_back(milliseconds([&] { step(i); }));
+    return times;
+  }
+
+  void pan(const char* what, int count) {
+    report_.addFrames(what, frames(count, [this](int i) {
+                        canvas().panBy({std::cos(i * 0.3) * 23, std::sin(i * 0.3) * 17});
+                        paint();
+                      }));
+  }
+  void zoom(const char* what, int count) {
+    report_.addFrames(what, frames(count, [this](int i) {
+                        const double factor = i / 5 % 2 ? 1.03 : 1 / 1.03;
+                        canvas().setZoom(canvas().zoom() * factor, {800, 500});
+                        paint();
+                      }));
+  }
+
+  void views() {
+    editor_.sendKeyEvent(Qt::Key_A, {});
+    pan("pan, everything in view", 40);
+    zoom("zoom, everything in view", 20);
+    showAHundred();
+    const auto whole = frames(40, [this](int) {
+      canvas().update();
+      paint();
+    });
+    report_.addFrames("about a hundred nodes in view, all anew", whole);
+    report_.add("  wires among them (a count)", static_cast<double>(canvas().lastDrawn().wires));
+    pan("pan, about a hundred nodes in view", 200);
+    zoom("zoom, about a hundred nodes in view", 100);
+  }
+
+  std::vector<BoxItem*> inView() {
+    std::vector<BoxItem*> boxes;
+    editor_.scene().boxes().search(canvas().visibleArea(), [&boxes](BoxItem& box) {
+      if (box.kind == orvuilib::BoxKind::Node) boxes.push_back(&box);
+    });
+    return boxes;
+  }
+
+  void edits() {
+    showAHundred();
+    const auto boxes = inView();
+    std::vector<std::string> lines;
+    for (const BoxItem* box : boxes) {
+      lines.push_back("orvNode g " + box->node->fullPath() + " -setPortDefaultValues b 7");
+    }
+    report_.addFrames("a value of a node in view set, and painted",
+                      frames(static_cast<int>(lines.size()), [&](int i) {
+                        world_.run(lines[static_cast<std::size_t>(i)]);
+                        QApplication::processEvents();
+                      }));
+    if (canvas().lastDrawn().boxes == 0) std::printf("nothing was painted\n");
+  }
+
+  void send(QEvent::Type type, const QPointF& point, Qt::MouseButton button) {
+    const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+    QMouseEvent event(type, point, canvas().mapToGlobal(point),
+                      type == QEvent::MouseMove ? Qt::NoButton : button, held, Qt::NoModifier);
+    QApplication::sendEvent(&canvas(), &event);
+    QApplication::processEvents();
+  }
+
+  void hover() {
+    report_.addFrames("pointer moved over nodes and wires", frames(200, [this](int i) {
+                        send(QEvent::MouseMove, {200 + i * 5.0, 150 + i * 3.0}, Qt::NoButton);
+                      }));
+  }
+
+  /// The nodes that are nearest to the middle of the view.
+  void selectNearest(std::size_t count) {
+    std::vector<BoxItem*> boxes;
+    editor_.scene().forEachBox([&boxes](BoxItem& box) { boxes.push_back(&box); });
+    std::ranges::sort(boxes, {}, [centre = canvas().centre()](const BoxItem* box) {
+      return (box->bounds.center() - centre).manhattanLength();
+    });
+    auto list = ORV_v1::NodeList::createNew(nullptr);
+    for (std::size_t i = 0; i < std::min(count, boxes.size()); ++i) {
+      list->add(orvuilib::EditSession::handle(*boxes[i]->node));
+    }
+    editor_.setSelectedNodes(list);
+  }
+
+  void drag() {
+    showAHundred();
+    selectNearest(500);
+    QApplication::processEvents();
+    const BoxItem* held = editor_.scene().selectedBoxes().front();
+    const QPointF start = canvas().toWidget(held->bounds.topLeft() + QPointF(40, 10));
+    send(QEvent::MouseButtonPress, start, Qt::LeftButton);
+    report_.addFrames("500 nodes dragged, each mouse move", frames(40, [&](int i) {
+                        const QPointF by(12 + i * 3, 12 + i * 2);
+                        send(QEvent::MouseMove, start + by, Qt::LeftButton);
+                      }));
+    report_.add("and let go", milliseconds([&] {
+                  send(QEvent::MouseButtonRelease, start + QPointF(130, 90), Qt::LeftButton);
+                }));
+    report_.add("undo of it", milliseconds([&] {
+                  world_.run("undo");
+                  QApplication::processEvents();
+                }));
+  }
+
+  void everything() {
+    const auto painted = [this](const std::function<void()>& work) {
+      return milliseconds([&] {
+        work();
+        QApplication::processEvents();
+      });
+    };
+    report_.add("select all",
+                painted([&] { editor_.sendKeyEvent(Qt::Key_A, Qt::ControlModifier); }));
+    report_.add("delete everything", painted([&] { editor_.sendKeyEvent(Qt::Key_Delete, {}); }));
+    report_.add("undo of the delete", painted([&] { world_.run("undo"); }));
+    report_.add("  times the delete",
+                report_.last("undo of the delete") / report_.last("delete everything"));
+  }
+
+  Report& report_;
+  World world_;
+  orvuilib::CompoundEditorWidget editor_;
+};
 
 }  // namespace
 
@@ -124,5 +179,7 @@ int main(int argc, char** argv) {
   std::vector<int> sizes;
   for (int i = 1; i < argc; ++i) sizes.push_back(std::max(500, std::atoi(argv[i])));
   if (sizes.empty()) sizes = {1000, 5000, 20000};
-  for (const int size : sizes) measure(size);
+  Report report;
+  for (const int size : sizes) Measuring(report, size).run();
+  report.print();
 }

@@ -1,10 +1,23 @@
 #include "platform/orvUI_1_0/DPIPreset.h"
 
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <algorithm>
+
 #include "standalone/widgets/look/Scale.h"
 
 namespace {
 
 orvUI_v1::DPIPreset thePreset = orvUI_v1::DPIPreset::kScale100;
+
+/// The height of the program's text at a scale of 1, in pixels.
+constexpr qreal kUsualText = 13;
+
+/// In quarters, since fonts come in whole pixels.
+qreal scaleOfText() {
+  const qreal height = QFontInfo(QGuiApplication::font()).pixelSize();
+  return std::clamp(qRound(height / kUsualText * 4) / 4.0, 1.0, 4.0);
+}
 
 }  // namespace
 
@@ -17,6 +30,6 @@ qreal orvuilib::currentScale() {
     case orvUI_v1::DPIPreset::kScale200:
       return 2;
     default:
-      return 1;
+      return scaleOfText();
   }
 }

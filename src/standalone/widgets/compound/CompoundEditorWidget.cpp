@@ -185,6 +185,7 @@ void CompoundEditorWidget::showCurrentLevel() {
   if (!level) findList_->forget();
   scene_.show(level);
   canvas_->setNotice({});
+  canvas_->setReadOnly(level ? session_.refusal() : QString());
   breadcrumb_->display(
       navigator_, container_ ? QString::fromStdString(container_->containerName()) : QString());
   if (level) {
@@ -243,6 +244,7 @@ void CompoundEditorWidget::graphChanged(orvlib::ContainerObject& container,
   interaction_->cancel();
   canvas_->setHovered(nullptr, nullptr);
   canvas_->repaintArea(scene_.follow(changes));
+  canvas_->setReadOnly(session_.refusal());
   const bool renamed = std::ranges::any_of(changes, [](const orvlib::NodeChange& change) {
     return change.bits & orvlib::kIdentityChange && change.node->compound();
   });

@@ -104,11 +104,24 @@ qreal Theme::width(const QString& text, const QFontMetricsF& metrics, const Adva
   return width;
 }
 
+qreal Theme::width(const std::string& utf8, const QFontMetricsF& metrics,
+                   const Advances& advances) {
+  qreal width = 0;
+  for (const char each : utf8) {
+    const auto letter = static_cast<unsigned char>(each);
+    if (letter >= advances.size()) {
+      return metrics.horizontalAdvance(QString::fromStdString(utf8));
+    }
+    width += advances[letter];
+  }
+  return width;
+}
+
 QString Theme::elided(const QString& text, qreal width) const {
   return textWidth(text) <= width ? text : metrics_.elidedText(text, Qt::ElideRight, width);
 }
 
-QColor Theme::typeColour(std::string_view type) const {
+QColor Theme::typeColour(std::string_view type) {
   const std::string_view name = innermost(type);
   const auto found = std::ranges::find(kTypeColours, name, &NamedColour::name);
   return found == std::end(kTypeColours) ? hued(name, 110, 160) : QColor(found->colour);

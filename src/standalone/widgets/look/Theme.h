@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QPalette>
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "platform/orvUI_1_0/OrvUiApi.h"
@@ -25,6 +26,9 @@ struct Palette {
   QColor text{0xe8, 0xe9, 0xeb};
   QColor quietText{0xa3, 0xa8, 0xb1};
   QColor accepted{0x7f, 0xc9, 0x8a};
+  QColor frozen{0x7d, 0xb4, 0xd8};
+  QColor frozenBody{0x33, 0x40, 0x4b};
+  QColor bypassed{0xc9, 0x9a, 0x5b};
   QColor refused{0xd0, 0x6a, 0x62};
   QColor band{0xf0, 0xb3, 0x55, 0x28};
   QColor panel{0x2e, 0x31, 0x36};
@@ -51,13 +55,18 @@ class ORVUI_EXPORT Theme {
 
   /// The width of a text on the canvas; quick, for texts come by the ten thousand.
   qreal textWidth(const QString& text) const { return width(text, metrics_, advances_); }
-  qreal titleWidth(const QString& text) const { return width(text, titleMetrics_, titleAdvances_); }
+
+  /// The same of names, which are mostly plain letters.
+  qreal textWidth(const std::string& utf8) const { return width(utf8, metrics_, advances_); }
+  qreal titleWidth(const std::string& utf8) const {
+    return width(utf8, titleMetrics_, titleAdvances_);
+  }
 
   /// A text that fits into the width, with its end left out if need be.
   QString elided(const QString& text, qreal width) const;
 
   /// Types of one family look alike: an array is coloured as its elements are.
-  QColor typeColour(std::string_view type) const;
+  static QColor typeColour(std::string_view type);
 
   /// The title bar of a node of that type. Types of one library look alike.
   QColor titleColour(std::string_view type) const;
@@ -66,6 +75,8 @@ class ORVUI_EXPORT Theme {
   using Advances = std::array<qreal, 128>;
   static Advances measure(const QFontMetricsF& metrics);
   static qreal width(const QString& text, const QFontMetricsF& metrics, const Advances& advances);
+  static qreal width(const std::string& utf8, const QFontMetricsF& metrics,
+                     const Advances& advances);
 
   qreal scale_;
   Palette palette_;

@@ -3,9 +3,10 @@
 #include <QFontMetrics>
 #include <algorithm>
 
+#include "standalone/widgets/look/Theme.h"
+
 namespace orvuilib::style {
 
-using orvlib::ScalarKind;
 using orvlib::ValueType;
 
 int gap(const QWidget& widget) { return std::max(2, widget.fontMetrics().height() / 4); }
@@ -42,22 +43,6 @@ QColor groupBackground(const QWidget& widget) {
 
 QColor refusal() { return {0xd0, 0x5a, 0x4e}; }
 
-QColor ofType(const ValueType& type) {
-  const ValueType& single = type.element ? *type.element : type;
-  const auto& names = single.components;
-  if (!names.empty() && names[0] == "r") return {0xd9, 0xa4, 0x41};
-  if (names.size() > 4) return {0x8d, 0x7b, 0xc4};
-  if (!names.empty()) return {0x9a, 0x72, 0xc9};
-  switch (single.scalar) {
-    case ScalarKind::Boolean:
-      return {0xc9, 0x6a, 0x63};
-    case ScalarKind::Integer:
-      return {0x4f, 0xa3, 0xa5};
-    case ScalarKind::Float:
-      return {0x6f, 0xa8, 0x56};
-    default:
-      return {0x5a, 0x8f, 0xc8};
-  }
-}
+QColor ofType(const ValueType& type) { return Theme::typeColour(type.name); }
 
 }  // namespace orvuilib::style

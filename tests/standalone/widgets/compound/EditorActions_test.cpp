@@ -2,6 +2,7 @@
 #include <QMenu>
 #include <sstream>
 
+#include "standalone/widgets/compound/scene/ShownValue.h"
 #include "standalone/widgets/preferences/Preferences.h"
 #include "tests/standalone/widgets/compound/EditorTesting.h"
 

@@ -2,6 +2,7 @@
 #include "standalone/graph/texts/ListText.h"
 #include "standalone/graph/types/ValueText.h"
 #include "standalone/widgets/compound/input/Interaction.h"
+#include "standalone/widgets/compound/scene/ShownValue.h"
 
 namespace orvuilib {
 

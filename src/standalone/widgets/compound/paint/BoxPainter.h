@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "standalone/widgets/compound/paint/Detail.h"
+#include "standalone/widgets/compound/paint/WireRaster.h"
 #include "standalone/widgets/compound/scene/LevelScene.h"
 
 namespace orvuilib {
@@ -20,11 +21,14 @@ class BoxPainter {
   void paint(QPainter& painter, BoxItem& box, bool hovered) const;
 
   /// All of them, quickly, as seen from far away.
-  void paintFar(QPainter& painter, const std::vector<BoxItem*>& boxes) const;
+  void paintFar(WireRaster& raster, const std::vector<BoxItem*>& boxes) const;
+
+  void paintValue(QPainter& painter, const ValueLabel& value) const;
 
  private:
   void paintBody(QPainter& painter, const BoxItem& box, bool hovered) const;
-  void paintStates(QPainter& painter, const BoxItem& box) const;
+  void paintInnerEdge(QPainter& painter, const BoxItem& box) const;
+  void paintMarks(QPainter& painter, const BoxItem& box) const;
   void paintPort(QPainter& painter, const BoxItem& box, const PortSlot& slot,
                  const QStaticText& label) const;
   void paintDot(QPainter& painter, const PortSlot& slot, const QPointF& at) const;

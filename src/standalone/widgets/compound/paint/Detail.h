@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPointF>
+
 #include "standalone/widgets/compound/scene/WireShape.h"
 
 namespace orvuilib {
@@ -19,10 +21,16 @@ inline Detail detailAt(qreal zoom) {
 
 /// What the painters of one picture share.
 struct PaintSettings {
+  /// From units of the scene to pixels: `origin + point * zoom`.
   qreal zoom = 1;
+  QPointF origin;
+
   Detail detail = Detail::Close;
   WireStyle wireStyle = WireStyle::Curved;
   bool showValues = true;
+
+  /// Whether it is offered to add ports.
+  bool editable = true;
 };
 
 }  // namespace orvuilib

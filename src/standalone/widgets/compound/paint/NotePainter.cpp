@@ -1,5 +1,6 @@
 #include "standalone/widgets/compound/paint/NotePainter.h"
 
+#include <QTextLayout>
 #include <cmath>
 
 namespace orvuilib {
@@ -18,16 +19,46 @@ void paintHandle(QPainter& painter, const NoteItem& note) {
                    QPointF(handle.right(), handle.center().y()));
 }
 
-void paintLines(QPainter& painter, const QRectF& area, qreal step, const QColor& colour) {
-  QList<QLineF> lines;
-  for (qreal x = std::ceil(area.left() / step) * step; x < area.right(); x += step) {
-    lines.append({x, area.top(), x, area.bottom()});
+/// One pixel wide, at whole pixels.
+void paintLines(QPainter& painter, const QRect& area, const QPointF& origin, qreal step,
+                const QColor& colour) {
+  const auto first = [step](qreal from, qreal start) { return std::ceil((from - start) / step); };
+  for (qreal i = first(area.left(), origin.x());; ++i) {
+    const int x = qRound(origin.x() + i * step);
+    if (x > area.right()) break;
+    painter.fillRect(x, area.top(), 1, area.height(), colour);
   }
-  for (qreal y = std::ceil(area.top() / step) * step; y < area.bottom(); y += step) {
-    lines.append({area.left(), y, area.right(), y});
+  for (qreal i = first(area.top(), origin.y());; ++i) {
+    const int y = qRound(origin.y() + i * step);
+    if (y > area.bottom()) break;
+    painter.fillRect(area.left(), y, area.width(), 1, colour);
   }
-  painter.setPen(QPen(colour, 0));
-  painter.drawLines(lines);
+}
+
+/// Wrapped; where there is no room for all, the last line that fits says that there is more.
+void paintText(QPainter& painter, const QRectF& area, const QString& text, const QFont& font) {
+  QString lines = text;
+  QTextLayout layout(lines.replace(QLatin1Char('\n'), QChar::LineSeparator), font);
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  QPointF at = area.topLeft();
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(area.width());
+    const bool isLast = at.y() + 2 * line.height() > area.bottom();
+    const bool isAll = line.textStart() + line.textLength() >= lines.size();
+    if (isLast && !isAll) {
+      const QString rest = lines.mid(line.textStart()).simplified();
+      const QFontMetricsF metrics(font);
+      painter.drawText(at + QPointF(0, line.ascent()),
+                       metrics.elidedText(rest, Qt::ElideRight, area.width()));
+      break;
+    }
+    line.draw(&painter, at);
+    at.ry() += line.height();
+  }
+  layout.endLayout();
 }
 
 }  // namespace
@@ -56,20 +87,26 @@ void paintNote(QPainter& painter, const NoteItem& note, const Theme& theme,
   if (settings.detail == Detail::Far) return;
   const bool light = !note.isBackdrop() && qGray(note.colour) > 120;
   painter.setPen(light ? QColor(0x2a, 0x28, 0x20) : theme.palette().text);
-  painter.setFont(note.isBackdrop() ? theme.titleFont() : theme.font());
-  const QRectF area = headOf(note).adjusted(10, 6, -10, note.isBackdrop() ? 0 : -6);
-  painter.drawText(area, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, note.text);
+  if (note.isBackdrop()) {
+    painter.setFont(theme.titleFont());
+    const QRectF area = headOf(note).adjusted(10, 0, -10, 0);
+    const QFontMetricsF metrics(theme.titleFont());
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
+                     metrics.elidedText(note.text.simplified(), Qt::ElideRight, area.width()));
+  } else {
+    painter.setFont(theme.font());
+    paintText(painter, note.bounds.adjusted(10, 6, -10, -6), note.text, theme.font());
+  }
   paintHandle(painter, note);
 }
 
 /// Lines that would lie too near to one another are left out.
-void paintGrid(QPainter& painter, const QRectF& area, qreal step, qreal zoom,
+void paintGrid(QPainter& painter, const QRect& area, qreal step, const PaintSettings& settings,
                const Palette& palette) {
-  if (step <= 0) return;
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  if (step * zoom >= 12) paintLines(painter, area, step, palette.gridFine);
-  if (step * kCoarse * zoom >= 24) paintLines(painter, area, step * kCoarse, palette.gridCoarse);
-  painter.setRenderHint(QPainter::Antialiasing, true);
+  const qreal fine = step * settings.zoom;
+  if (fine >= 12) paintLines(painter, area, settings.origin, fine, palette.gridFine);
+  const qreal coarse = fine * kCoarse;
+  if (coarse >= 24) paintLines(painter, area, settings.origin, coarse, palette.gridCoarse);
 }
 
 }  // namespace orvuilib

@@ -16,8 +16,8 @@ QRectF headOf(const NoteItem& note);
 void paintNote(QPainter& painter, const NoteItem& note, const Theme& theme,
                const PaintSettings& settings);
 
-/// The lines behind everything. `step` in units of the canvas; none for 0.
-void paintGrid(QPainter& painter, const QRectF& area, qreal step, qreal zoom,
+/// The lines behind everything, in pixels. `step` in units of the canvas; none for 0.
+void paintGrid(QPainter& painter, const QRect& area, qreal step, const PaintSettings& settings,
                const Palette& palette);
 
 }  // namespace orvuilib

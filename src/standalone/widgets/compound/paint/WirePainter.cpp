@@ -1,70 +1,50 @@
 #include "standalone/widgets/compound/paint/WirePainter.h"
 
-#include <map>
-
-#include "platform/ORV_1_0/QtConversions.h"
-#include "standalone/graph/model/WatchPointObject.h"
+#include <algorithm>
 
 namespace orvuilib {
 namespace {
 
-constexpr int kLongestValue = 28;
+// In units of the canvas, and never thinner than a pixel.
+constexpr qreal kWidth = 1.5;
+constexpr qreal kLitWidth = 2.6;
+
+bool isLit(const Wire& wire, const Wire* hovered) {
+  return &wire == hovered || wire.from->selected || wire.to->selected;
+}
 
 }  // namespace
 
-QString lastValueOf(const orvlib::PortObject& port) {
-  orvlib::WatchPointObject* watch = watchOf(port);
-  ORV_v1::StringArray values;
-  if (!watch || !watch->getRecordedValues("value", values) || values.size() == 0) return {};
-  const QString text = ORV_v1::toQString(values[values.size() - 1]);
-  return text.size() <= kLongestValue ? text : text.left(kLongestValue - 1) + QChar(0x2026);
-}
-
-void WirePainter::paint(QPainter& painter, const std::vector<Wire*>& wires,
+void WirePainter::paint(WireRaster& raster, const std::vector<Wire*>& wires,
                         const Wire* hovered) const {
-  if (settings_.detail == Detail::Far) return paintFar(painter, wires);
-  painter.setBrush(Qt::NoBrush);
-  for (const Wire* wire : wires) paintOne(painter, *wire, wire == hovered);
+  if (settings_.detail == Detail::Far) return paintFar(raster, wires);
+  const qreal width = std::max(1.0, kWidth * settings_.zoom);
+  for (const Wire* wire : wires) {
+    if (!isLit(*wire, hovered)) paintOne(raster, *wire, width);
+  }
+  const qreal litWidth = std::max(2.0, kLitWidth * settings_.zoom);
+  for (const Wire* wire : wires) {
+    if (isLit(*wire, hovered)) paintOne(raster, *wire, litWidth);
+  }
 }
 
-void WirePainter::paintOne(QPainter& painter, const Wire& wire, bool hovered) const {
-  const bool lit = hovered || wire.from->selected || wire.to->selected;
-  // A line of one pixel is drawn many times faster than a wider one, and there are many.
-  painter.setPen(QPen(QColor(wire.colour), lit ? 2.2 : 0));
-  painter.drawPath(wirePath(wire.start, wire.end, settings_.wireStyle));
+void WirePainter::paintOne(WireRaster& raster, const Wire& wire, qreal width) const {
+  const QPointF start = settings_.origin + wire.start * settings_.zoom;
+  const QPointF end = settings_.origin + wire.end * settings_.zoom;
+  WirePoints points;
+  raster.drawLine(wirePoints(start, end, settings_.wireStyle, settings_.zoom, points), width,
+                  wire.colour);
 }
 
-/// Straight, by colour, and without those that are shorter than a pixel or two.
-void WirePainter::paintFar(QPainter& painter, const std::vector<Wire*>& wires) const {
-  std::map<QRgb, QList<QLineF>> lines;
+/// Straight, and without those that are shorter than a pixel or two.
+void WirePainter::paintFar(WireRaster& raster, const std::vector<Wire*>& wires) const {
   const qreal shortest = 2 / settings_.zoom;
   for (const Wire* wire : wires) {
     const QPointF across = wire->end - wire->start;
     if (across.manhattanLength() < shortest) continue;
-    lines[wire->colour].append(QLineF(wire->start, wire->end));
-  }
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  for (const auto& [colour, all] : lines) {
-    QPen pen(QColor(colour).darker(150), 0);
-    painter.setPen(pen);
-    painter.drawLines(all);
-  }
-  painter.setRenderHint(QPainter::Antialiasing, true);
-}
-
-void WirePainter::paintValues(QPainter& painter, const std::vector<Wire*>& wires) const {
-  painter.setFont(theme_.font());
-  for (const Wire* wire : wires) {
-    QString text = lastValueOf(*wire->source);
-    if (text.isEmpty()) text = lastValueOf(*wire->target);
-    if (text.isEmpty()) continue;
-    QRectF label(0, 0, theme_.textWidth(text) + 12, 17);
-    label.moveCenter(wireMiddle(wire->start, wire->end, settings_.wireStyle));
-    painter.setPen(QPen(QColor(wire->colour).darker(130), 1));
-    painter.setBrush(theme_.palette().field);
-    painter.drawRoundedRect(label, 4, 4);
-    painter.setPen(theme_.palette().text);
-    painter.drawText(label, Qt::AlignCenter, text);
+    const std::array ends{settings_.origin + wire->start * settings_.zoom,
+                          settings_.origin + wire->end * settings_.zoom};
+    raster.drawLine(ends, 1, QColor(wire->colour).darker(150).rgb());
   }
 }
 

@@ -69,6 +69,7 @@ int addAllSlots(BoxItem& box, const OpenPorts& open) {
     case BoxKind::Node:
       break;
   }
+  box.portSlots.reserve(node.inputList().count() + node.outputList().count());
   const int left = addList(box, node.inputList(), open);
   const int right = addList(box, node.outputList(), open);
   const bool ofCompound = node.nodeKind() == NodeKind::Input || node.nodeKind() == NodeKind::Output;
@@ -80,11 +81,14 @@ qreal widthOf(const BoxItem& box, const Theme& theme) {
   qreal right = 0;
   for (const PortSlot& slot : box.portSlots) {
     if (slot.row < 0) continue;
-    const qreal width = theme.textWidth(labelOf(slot)) + box::kIndent * slot.depth;
+    const qreal width = theme.textWidth(slot.port->name()) + box::kIndent * slot.depth;
     (slot.left ? left : right) = std::max(slot.left ? left : right, width);
   }
   const qreal columns = left + right + (left > 0 && right > 0 ? box::kColumnGap : 0);
-  const qreal title = theme.titleWidth(titleOf(box)) + 2 * box::kLabelInset + 16;
+  const bool boundary = box.kind != BoxKind::Node;
+  const qreal titleText =
+      theme.titleWidth(boundary ? titleOf(box).toStdString() : box.node->name());
+  const qreal title = titleText + 2 * box::kLabelInset + 16;
   const qreal wanted = std::max(columns + 2 * box::kLabelInset, title);
   return std::clamp(std::ceil(wanted / 10) * 10, box::kNarrowest, box::kWidest);
 }
@@ -95,6 +99,9 @@ void layOut(BoxItem& box, const OpenPorts& open, const Theme& theme) {
   box.portSlots.clear();
   box.watched = false;
   box.rows = addAllSlots(box, open);
+  for (PortSlot& slot : box.portSlots) {
+    slot.colour = theme.typeColour(slot.port->valueType().name).rgb();
+  }
   box.texts.reset();
   box.bounds.setSize({widthOf(box, theme), box::kTitle + box.rows * box::kRow + box::kFoot});
   box.titleColour = box.kind == BoxKind::Node ? theme.titleColour(box.node->typeName()).rgb()

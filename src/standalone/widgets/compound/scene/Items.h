@@ -26,9 +26,23 @@ struct PortSlot {
   int row = 0;
   int depth = 0;      ///< how far below a top-level port it is
   bool left = false;  ///< it takes values, and lies at the left side
+  QRgb colour = 0;    ///< of its type
 
   bool operator==(const PortSlot& other) const {
-    return port.get() == other.port.get() && row == other.row && left == other.left;
+    return port.get() == other.port.get() && row == other.row && left == other.left &&
+           colour == other.colour;
+  }
+};
+
+/// The last value of a watched port, beside it.
+struct ValueLabel {
+  std::uint64_t latest = 0;  ///< which record it shows; 0 for none
+  QString text;
+  QRectF bounds;
+  QRgb colour = 0;
+
+  bool looksLike(const ValueLabel& other) const {
+    return text == other.text && bounds == other.bounds && colour == other.colour;
   }
 };
 
@@ -65,6 +79,7 @@ struct BoxItem {
   bool placed = false;   ///< the graph says where it is
   bool watched = false;  ///< a port of it has a watch point
   QRgb titleColour = 0;
+  std::vector<ValueLabel> values;  ///< of watched ports that are shown
   std::unique_ptr<BoxTexts> texts;
 };
 

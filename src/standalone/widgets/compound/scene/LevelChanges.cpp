@@ -13,8 +13,14 @@ namespace {
 constexpr unsigned char kLooks = orvlib::kValueChange | orvlib::kPortChange |
                                  orvlib::kIdentityChange | orvlib::kWatchChange |
                                  orvlib::kWireChange;
+
+/// After which boxes may be elsewhere or of another size.
+constexpr unsigned char kMoves = orvlib::kPlaceChange | orvlib::kMetadataChange |
+                                 orvlib::kPortChange | orvlib::kIdentityChange |
+                                 orvlib::kWireChange;
 constexpr QRectF kNewBackdrop(0, 0, 260, 160);
 constexpr QRectF kNewNote(0, 0, 180, 90);
+constexpr qreal kNoteGap = 24;
 
 bool showsCompoundPorts(const NodeObject& node) {
   return node.nodeKind() == orvlib::NodeKind::Input || node.nodeKind() == orvlib::NodeKind::Output;
@@ -28,15 +34,17 @@ QRgb colourOf(const QString& text, QRgb otherwise) {
 
 }  // namespace
 
-QRectF LevelScene::follow(std::span<const NodeChange> changes) {
+Areas LevelScene::follow(std::span<const NodeChange> changes) {
   if (!level_) return {};
-  QRectF touched;
+  Areas touched;
   // First what came and went: wires are made between what is there.
   for (const NodeChange& change : changes) {
     if (change.bits & orvlib::kPlaceChange)
       touched |= followNode(*change.node, orvlib::kPlaceChange);
   }
+  bool thingsMoved = false;
   for (const NodeChange& change : changes) {
+    thingsMoved |= (change.bits & kMoves) != 0;
     if (change.node.get() == level_.get()) {
       touched |= followLevel(change.bits);
     } else {
@@ -44,16 +52,18 @@ QRectF LevelScene::follow(std::span<const NodeChange> changes) {
     }
   }
   dropGone();
-  return touched | watchedArea();
+  touched |= followValues(thingsMoved);
+  return touched;
 }
 
-QRectF LevelScene::followNode(NodeObject& node, unsigned char bits) {
+Areas LevelScene::followNode(NodeObject& node, unsigned char bits) {
   BoxItem* box = find(&node);
   if (node.parent() != level()) {
     if (!box) return {};
-    const QRectF area = reachOf(*box);
+    Areas touched = reachOf(*box);
     takeAway(*box);
-    return showsCompoundPorts(node) ? area | refreshFaces(orvlib::kPortChange) : area;
+    if (showsCompoundPorts(node)) touched |= refreshFaces(orvlib::kPortChange);
+    return touched;
   }
   if (!box) {
     box = &addBox(node);
@@ -63,35 +73,31 @@ QRectF LevelScene::followNode(NodeObject& node, unsigned char bits) {
     addLeavingWires(*box);
     return showsCompoundPorts(node) ? refreshFaces(orvlib::kPortChange) : reachOf(*box);
   }
-  QRectF touched;
+  Areas touched;
   if (bits & kLooks) {
     touched |= showsCompoundPorts(node) ? refreshFaces(orvlib::kPortChange) : refresh(*box);
-  }
-  if (bits & orvlib::kPortChange) {
-    // A port may have got another type.
-    for (Wire* wire : box->leaving) setColour(*wire);
-    touched |= reachOf(*box);
   }
   if (bits & orvlib::kMetadataChange) touched |= followPosition(*box);
   return touched;
 }
 
-QRectF LevelScene::followLevel(unsigned char bits) {
-  QRectF touched;
+Areas LevelScene::followLevel(unsigned char bits) {
+  Areas touched;
   if (bits & orvlib::kContentChange) touched |= followNotes();
   if (bits & kLooks) touched |= refreshFaces(bits);
   if (bits & orvlib::kMetadataChange) {
-    touched |= followPosition(*inputs_) | followPosition(*outputs_);
+    touched |= followPosition(*inputs_);
+    touched |= followPosition(*outputs_);
   }
   return touched;
 }
 
 /// The level's own ports may go from one box to another, and with them wires whose far ends are not
 /// told of: unless only wires changed, all boxes that show such ports are wired anew.
-QRectF LevelScene::refreshFaces(unsigned char bits) {
+Areas LevelScene::refreshFaces(unsigned char bits) {
   std::vector<BoxItem*> boxes = ioBoxes_;
   boxes.insert(boxes.end(), {inputs_.get(), outputs_.get()});
-  QRectF touched;
+  Areas touched;
   const bool portsMayMove = bits & orvlib::kPortChange;
   for (BoxItem* box : boxes) {
     if (!portsMayMove) continue;
@@ -108,23 +114,38 @@ QRectF LevelScene::refreshFaces(unsigned char bits) {
 }
 
 /// Ports and texts anew, and the wires that end here. What begins here is left alone when the ports
-/// are where they were, for there may be any number of them.
-QRectF LevelScene::refresh(BoxItem& box) {
+/// are as they were, for there may be any number of them.
+Areas LevelScene::refresh(BoxItem& box) {
   const QRectF before = box.bounds;
   const std::vector<PortSlot> formerSlots = std::move(box.portSlots);
   boxGrid_.remove(box);
   layOut(box, openPorts_, theme_);
   boxGrid_.insert(box);
+  Areas touched = before | box.bounds;
+  touched |= rereadValues(box);
+  const bool portsStay = before == box.bounds && box.portSlots == formerSlots;
+  if (!portsStay || !isWiredAsConnected(box)) touched |= rewireArriving(box);
+  if (portsStay) return touched;
+  for (Wire* wire : box.leaving) {
+    touched |= wire->bounds;
+    setEnds(*wire);
+    touched |= wire->bounds;
+  }
+  return touched;
+}
+
+/// All of them, since the ports may be others.
+Areas LevelScene::rereadValues(BoxItem& box) {
+  Areas touched;
+  for (const ValueLabel& label : box.values) touched |= label.bounds;
   if (box.watched) {
     watched_.insert(&box);
   } else {
     watched_.remove(&box);
   }
-  QRectF touched = before | box.bounds | rewireArriving(box);
-  if (before == box.bounds && box.portSlots == formerSlots) return touched;
-  touched |= reachOf(box);
-  for (Wire* wire : box.leaving) setEnds(*wire);
-  return touched | reachOf(box);
+  readValues(box);
+  for (const ValueLabel& label : box.values) touched |= label.bounds;
+  return touched;
 }
 
 QRectF LevelScene::followPosition(BoxItem& box) {
@@ -139,8 +160,8 @@ QRectF LevelScene::followPosition(BoxItem& box) {
 }
 
 /// Annotations are few: all are looked at.
-QRectF LevelScene::followNotes() {
-  QRectF touched;
+Areas LevelScene::followNotes() {
+  Areas touched;
   std::erase_if(notes_, [this, &touched](const auto& entry) {
     NoteItem& note = *entry.second;
     if (note.annotation->parent() == level()) return false;
@@ -169,9 +190,28 @@ NoteItem& LevelScene::addNote(orvlib::AnnotationObject& annotation) {
   note.annotation = orvlib::AnnotationRef(&annotation);
   note.bounds = note.isBackdrop() ? kNewBackdrop : kNewNote;
   readNote(note);
+  if (!placement::pointIn(annotation.metadata(), placement::kPosition)) {
+    note.bounds.moveTopLeft(freePlaceForNote(note.bounds));
+  }
   noteGrid_.insert(note);
   notes_.emplace(&annotation, std::move(made));
   return note;
+}
+
+/// Below what is there already.
+QPointF LevelScene::freePlaceForNote(const QRectF& bounds) const {
+  QRectF place(lastFree_, bounds.size());
+  for (int tries = 0; tries < 64; ++tries) {
+    qreal top = place.top();
+    const auto goBelow = [&top](const auto& other) {
+      top = std::max(top, other.bounds.bottom() + kNoteGap);
+    };
+    boxGrid_.search(place, goBelow);
+    noteGrid_.search(place, goBelow);
+    if (top == place.top()) break;
+    place.moveTop(top);
+  }
+  return place.topLeft();
 }
 
 /// False when nothing is different.
@@ -192,12 +232,6 @@ bool LevelScene::readNote(NoteItem& note) const {
   note.text = text;
   note.colour = colour;
   return true;
-}
-
-QRectF LevelScene::watchedArea() const {
-  QRectF area;
-  for (const BoxItem* box : watched_) area |= reachOf(*box);
-  return area;
 }
 
 }  // namespace orvuilib

@@ -60,6 +60,10 @@ void LevelScene::show(NodeObject* levelNode) {
   placeBoundaries();
   forEachBox([this](BoxItem& box) { addArrivingWires(box); });
   addArrivingWires(*outputs_);
+  for (BoxItem* boundary : {inputs_.get(), outputs_.get()}) {
+    if (boundary->watched) watched_.insert(boundary);
+  }
+  followValues();
 }
 
 std::unique_ptr<BoxItem> LevelScene::makeBoundary(BoxKind kind) {
@@ -156,12 +160,15 @@ QRectF LevelScene::reachOf(const BoxItem& box) {
   QRectF reach = box.bounds;
   for (const Wire* wire : box.arriving) reach |= wire->bounds;
   for (const Wire* wire : box.leaving) reach |= wire->bounds;
+  for (const ValueLabel& label : box.values) reach |= label.bounds;
   return reach;
 }
 
 QRectF LevelScene::move(BoxItem& box, const QPointF& topLeft) {
   if (box.bounds.topLeft() == topLeft) return {};
   const QRectF before = reachOf(box);
+  const QPointF away = topLeft - box.bounds.topLeft();
+  for (ValueLabel& label : box.values) label.bounds.translate(away);
   boxGrid_.remove(box);
   box.bounds.moveTopLeft(topLeft);
   boxGrid_.insert(box);
@@ -179,7 +186,7 @@ QRectF LevelScene::move(NoteItem& note, const QRectF& bounds) {
   return before | bounds;
 }
 
-QRectF LevelScene::toggleOpen(const orvlib::PortObject& port) {
+Areas LevelScene::toggleOpen(const orvlib::PortObject& port) {
   const Shown shown = find(port);
   if (!shown.box) return {};
   if (!openPorts_.remove(&port)) openPorts_.insert(&port);

@@ -7,6 +7,7 @@
 #include "platform/orvUI_1_0/OrvUiApi.h"
 #include "standalone/graph/model/Changes.h"
 #include "standalone/graph/model/CompoundObject.h"
+#include "standalone/widgets/compound/scene/Areas.h"
 #include "standalone/widgets/compound/scene/BoxLayout.h"
 #include "standalone/widgets/compound/scene/Items.h"
 
@@ -29,8 +30,12 @@ class ORVUI_EXPORT LevelScene {
   orvlib::NodeObject* levelNode() const { return level_.get(); }
   orvlib::CompoundObject* level() const { return level_ ? level_->compound() : nullptr; }
 
-  /// Takes over what changed, and gives the part of the canvas that looks different then.
-  QRectF follow(std::span<const orvlib::NodeChange> changes);
+  /// Takes over what changed, and gives the parts of the canvas that look different then.
+  Areas follow(std::span<const orvlib::NodeChange> changes);
+
+  /// Takes over what watched ports have recorded since. `thingsMoved`: other things may be where a
+  /// value was shown.
+  Areas followValues(bool thingsMoved = false);
 
   /// Null for a node that is not on this level.
   BoxItem* find(const orvlib::NodeObject* node) const;
@@ -51,6 +56,9 @@ class ORVUI_EXPORT LevelScene {
   std::size_t boxCount() const { return boxes_.size(); }
   std::size_t wireCount() const { return wireCount_; }
 
+  /// With watched ports, in no order.
+  const QSet<BoxItem*>& watchedBoxes() const { return watched_; }
+
   /// For each node in no order; not for the boundary.
   template <class Visit>
   void forEachBox(Visit visit) const {
@@ -68,11 +76,11 @@ class ORVUI_EXPORT LevelScene {
   QRectF move(BoxItem& box, const QPointF& topLeft);
   QRectF move(NoteItem& note, const QRectF& bounds);
 
-  /// The box with its wires.
+  /// The box with its wires and values.
   static QRectF reachOf(const BoxItem& box);
 
   /// Shows a port with its components, or no longer.
-  QRectF toggleOpen(const orvlib::PortObject& port);
+  Areas toggleOpen(const orvlib::PortObject& port);
 
   /// Puts a box above all others.
   void raise(BoxItem& box) { box.serial = ++lastSerial_; }
@@ -101,26 +109,34 @@ class ORVUI_EXPORT LevelScene {
   void placeBoundaries();
 
   // LevelWires.cpp
-  void addWire(orvlib::PortObject& source, orvlib::PortObject& target);
+  void addWire(BoxItem* from, orvlib::PortObject& source, BoxItem* to, orvlib::PortObject& target);
   void removeWire(Wire& wire);
   void removeWires(BoxItem& box);
   void addArrivingWires(BoxItem& box);
   void addLeavingWires(BoxItem& box);
-  void setColour(Wire& wire) const;
   void setEnds(Wire& wire);
-  QRectF rewireArriving(BoxItem& box);
+  bool isWiredAsConnected(const BoxItem& box) const;
+  Areas rewireArriving(BoxItem& box);
   BoxItem* boxOf(const orvlib::PortObject& port) const;
 
   // LevelChanges.cpp
-  QRectF followNode(orvlib::NodeObject& node, unsigned char bits);
-  QRectF followLevel(unsigned char bits);
-  QRectF refreshFaces(unsigned char bits);
-  QRectF refresh(BoxItem& box);
+  Areas followNode(orvlib::NodeObject& node, unsigned char bits);
+  Areas followLevel(unsigned char bits);
+  Areas refreshFaces(unsigned char bits);
+  Areas refresh(BoxItem& box);
+  Areas rereadValues(BoxItem& box);
   QRectF followPosition(BoxItem& box);
-  QRectF followNotes();
+  Areas followNotes();
   NoteItem& addNote(orvlib::AnnotationObject& annotation);
   bool readNote(NoteItem& note) const;
-  QRectF watchedArea() const;
+  QPointF freePlaceForNote(const QRectF& bounds) const;
+
+  // LevelValues.cpp
+  void readValues(BoxItem& box);
+  static bool hasNewValues(const BoxItem& box);
+  bool isFree(const QRectF& area, const BoxItem& but) const;
+  QRectF placeOfValue(const BoxItem& box, const PortSlot& slot, const QString& text,
+                      int& hung) const;
 
   // LevelPlacement.cpp
   void placeAll();

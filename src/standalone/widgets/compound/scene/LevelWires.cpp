@@ -49,27 +49,20 @@ BoxItem* LevelScene::boxOf(const PortObject& port) const {
   return root.isInput() ? outputs_.get() : inputs_.get();
 }
 
-void LevelScene::addWire(PortObject& source, PortObject& target) {
-  const Shown from = find(source);
-  const Shown to = find(target);
-  if (!from.box || !to.box) return;
+/// Nothing happens when one of the boxes is none.
+void LevelScene::addWire(BoxItem* from, PortObject& source, BoxItem* to, PortObject& target) {
+  if (!from || !to) return;
   auto* wire = new Wire;
   wire->source = orvlib::PortRef(&source);
   wire->target = orvlib::PortRef(&target);
-  wire->from = from.box;
-  wire->to = to.box;
-  wire->indexAtFrom = static_cast<std::uint32_t>(from.box->leaving.size());
-  wire->indexAtTo = static_cast<std::uint32_t>(to.box->arriving.size());
-  setColour(*wire);
-  from.box->leaving.push_back(wire);
-  to.box->arriving.push_back(wire);
+  wire->from = from;
+  wire->to = to;
+  wire->indexAtFrom = static_cast<std::uint32_t>(from->leaving.size());
+  wire->indexAtTo = static_cast<std::uint32_t>(to->arriving.size());
+  from->leaving.push_back(wire);
+  to->arriving.push_back(wire);
   ++wireCount_;
   setEnds(*wire);
-}
-
-/// That of the type of what it carries.
-void LevelScene::setColour(Wire& wire) const {
-  wire.colour = theme_.typeColour(wire.source->valueType().name).rgb();
 }
 
 void LevelScene::removeWire(Wire& wire) {
@@ -86,8 +79,10 @@ void LevelScene::removeWires(BoxItem& box) {
 }
 
 void LevelScene::addArrivingWires(BoxItem& box) {
-  forEachPort(box, true, [this](PortObject& target) {
-    for (PortObject* source : target.peers().items()) addWire(*source, target);
+  forEachPort(box, true, [this, &box](PortObject& target) {
+    for (PortObject* source : target.peers().items()) {
+      addWire(find(*source).box, *source, &box, target);
+    }
   });
 }
 
@@ -95,10 +90,10 @@ void LevelScene::addArrivingWires(BoxItem& box) {
 void LevelScene::addLeavingWires(BoxItem& box) {
   QSet<std::pair<const PortObject*, const PortObject*>> made;
   for (const Wire* wire : box.leaving) made.insert({wire->source.get(), wire->target.get()});
-  forEachPort(box, false, [this, &made](PortObject& source) {
+  forEachPort(box, false, [this, &box, &made](PortObject& source) {
     for (PortObject* target : source.peers().items()) {
       if (!made.contains(std::pair<const PortObject*, const PortObject*>(&source, target)))
-        addWire(source, *target);
+        addWire(&box, source, find(*target).box, *target);
     }
   });
 }
@@ -107,15 +102,34 @@ void LevelScene::setEnds(Wire& wire) {
   const PortSlot* from = slotFor(*wire.from, *wire.source);
   const PortSlot* to = slotFor(*wire.to, *wire.target);
   wireGrid_.remove(wire);
-  if (from) wire.start = anchorOf(*wire.from, *from);
+  if (from) {
+    wire.start = anchorOf(*wire.from, *from);
+    const bool itself = from->port.get() == wire.source.get();
+    wire.colour = itself ? from->colour : theme_.typeColour(wire.source->valueType().name).rgb();
+  }
   if (to) wire.end = anchorOf(*wire.to, *to);
   wire.bounds = wireBounds(wire.start, wire.end);
   wireGrid_.insert(wire);
 }
 
+/// Whether the wires that end here are the connections that there are, in their order.
+bool LevelScene::isWiredAsConnected(const BoxItem& box) const {
+  std::size_t count = 0;
+  bool same = true;
+  forEachPort(box, true, [&](const PortObject& target) {
+    for (const PortObject* source : target.peers().items()) {
+      if (!find(*source).box) continue;
+      const Wire* wire = count < box.arriving.size() ? box.arriving[count] : nullptr;
+      ++count;
+      same = same && wire && wire->source.get() == source && wire->target.get() == &target;
+    }
+  });
+  return same && count == box.arriving.size();
+}
+
 /// Makes the wires anew that end here; those that begin here are told of by their other ends.
-QRectF LevelScene::rewireArriving(BoxItem& box) {
-  QRectF touched;
+Areas LevelScene::rewireArriving(BoxItem& box) {
+  Areas touched;
   while (!box.arriving.empty()) {
     touched |= box.arriving.back()->bounds;
     removeWire(*box.arriving.back());

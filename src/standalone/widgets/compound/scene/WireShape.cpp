@@ -10,8 +10,7 @@ namespace {
 
 constexpr int kPieces = 16;
 
-QPointF onCurve(const QPointF& start, const QPointF& end, qreal t) {
-  const QPointF reach(wireReach(start, end), 0);
+QPointF onCurve(const QPointF& start, const QPointF& end, const QPointF& reach, qreal t) {
   const qreal s = 1 - t;
   return start * (s * s * s) + (start + reach) * (3 * s * s * t) + (end - reach) * (3 * s * t * t) +
          end * (t * t * t);
@@ -20,10 +19,11 @@ QPointF onCurve(const QPointF& start, const QPointF& end, qreal t) {
 /// The wire as a line of pieces.
 std::array<QPointF, kPieces + 1> pieces(const QPointF& start, const QPointF& end, WireStyle style) {
   std::array<QPointF, kPieces + 1> points;
+  const QPointF reach(wireReach(start, end), 0);
   const qreal middle = (start.x() + end.x()) / 2;
   for (int i = 0; i <= kPieces; ++i) {
     const qreal t = qreal(i) / kPieces;
-    if (style == WireStyle::Curved) points[i] = onCurve(start, end, t);
+    if (style == WireStyle::Curved) points[i] = onCurve(start, end, reach, t);
     if (style == WireStyle::Straight) points[i] = start + (end - start) * t;
     if (style != WireStyle::Angled) continue;
     const bool before = i < kPieces / 2;
@@ -44,11 +44,11 @@ qreal distance(const QPointF& point, const QPointF& from, const QPointF& to) {
 
 }  // namespace
 
-qreal wireReach(const QPointF& start, const QPointF& end) {
+qreal wireReach(const QPointF& start, const QPointF& end, qreal zoom) {
   const qreal across = std::abs(end.x() - start.x());
   const qreal down = std::abs(end.y() - start.y());
-  const qreal wanted = end.x() > start.x() ? across / 2 : across / 3 + 40;
-  return std::clamp(wanted, std::min(30.0, (across + down) / 3), 180.0);
+  const qreal wanted = end.x() > start.x() ? across / 2 : across / 3 + 40 * zoom;
+  return std::clamp(wanted, std::min(30.0 * zoom, (across + down) / 3), 180.0 * zoom);
 }
 
 QRectF wireBounds(const QPointF& start, const QPointF& end) {
@@ -76,8 +76,27 @@ QPainterPath wirePath(const QPointF& start, const QPointF& end, WireStyle style)
   return path;
 }
 
-QPointF wireMiddle(const QPointF& start, const QPointF& end, WireStyle style) {
-  return style == WireStyle::Curved ? onCurve(start, end, 0.5) : (start + end) / 2;
+std::span<const QPointF> wirePoints(const QPointF& start, const QPointF& end, WireStyle style,
+                                    qreal zoom, WirePoints& points) {
+  const auto between = [&](int count) {
+    points.front() = start;
+    points[static_cast<std::size_t>(count)] = end;
+    return std::span<const QPointF>(points.data(), static_cast<std::size_t>(count) + 1);
+  };
+  if (style == WireStyle::Straight) return between(1);
+  if (style == WireStyle::Angled) {
+    const qreal middle = (start.x() + end.x()) / 2;
+    points[1] = {middle, start.y()};
+    points[2] = {middle, end.y()};
+    return between(3);
+  }
+  const QPointF reach(wireReach(start, end, zoom), 0);
+  const qreal wanted = std::sqrt((end - start).manhattanLength()) * 1.2;
+  const int count = static_cast<int>(std::clamp<qreal>(wanted, 8, points.size() - 1));
+  for (int i = 1; i < count; ++i) {
+    points[static_cast<std::size_t>(i)] = onCurve(start, end, reach, qreal(i) / count);
+  }
+  return between(count);
 }
 
 qreal distanceToWire(const QPointF& point, const QPointF& start, const QPointF& end,

@@ -4,10 +4,24 @@
 #include <QKeyEvent>
 #include <QToolTip>
 #include <algorithm>
-
-#include "standalone/widgets/compound/paint/NotePainter.h"
+#include <cmath>
 
 namespace orvuilib {
+namespace {
+
+void paintLock(QPainter& painter, const QRectF& area, const Theme& theme) {
+  const qreal unit = area.height() / 24;
+  painter.save();
+  painter.setPen(QPen(theme.palette().selected, 1.6 * unit));
+  painter.translate(area.topLeft());
+  painter.drawArc(QRectF(8 * unit, 5 * unit, 8 * unit, 10 * unit), 0, 180 * 16);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(theme.palette().selected);
+  painter.drawRoundedRect(QRectF(6 * unit, 10 * unit, 12 * unit, 9 * unit), 1.5 * unit, 1.5 * unit);
+  painter.restore();
+}
+
+}  // namespace
 
 Canvas::Canvas(LevelScene& scene, const EditorPreferences& preferences, QWidget* parent)
     : QWidget(parent), scene_(scene), preferences_(preferences) {
@@ -34,9 +48,11 @@ void Canvas::setZoom(qreal zoom, const QPointF& fixed) {
   update();
 }
 
+/// By whole pixels of the device, so that what is painted can be moved along.
 void Canvas::panBy(const QPointF& pixels) {
-  origin_ += pixels;
-  update();
+  const qreal ratio = devicePixelRatioF();
+  origin_ += QPointF((pixels * ratio).toPoint()) / ratio;
+  QWidget::update();
 }
 
 void Canvas::centreOn(const QPointF& point) {
@@ -53,33 +69,51 @@ void Canvas::fit(const QRectF& area) {
   centreOn(area.center());
 }
 
-void Canvas::repaintArea(const QRectF& area) {
-  if (area.isNull()) return;
-  // Edges and halos reach over what they belong to.
-  update(toWidget(area.adjusted(-10, -10, 10, 10)).toAlignedRect().adjusted(-2, -2, 2, 2));
+void Canvas::update() {
+  picture_.setAllStale();
+  QWidget::update();
+}
+
+void Canvas::repaintArea(const Areas& areas) {
+  for (const QRectF& area : areas.rects()) {
+    picture_.setStale(area);
+    // Edges and halos reach over what they belong to.
+    const QRectF reach = toWidget(area.adjusted(-12, -12, 12, 12)).adjusted(-3, -3, 3, 3);
+    QWidget::update((reach & QRectF(rect())).toAlignedRect());
+  }
 }
 
 Hit Canvas::hitAt(const QPointF& scenePoint) const {
-  return orvuilib::hitAt(scene_, scenePoint, preferences_.wireStyle, reach());
+  return orvuilib::hitAt(scene_, scenePoint, settings());
 }
 
+/// What was hovered may be gone: it is not looked at any more.
 void Canvas::setHovered(const BoxItem* box, const Wire* wire) {
-  if (box == hoveredBox_ && wire == hoveredWire_) return;
-  // What was hovered may be gone.
-  hoveredBox_ = box;
-  hoveredWire_ = wire;
-  update();
+  if (box == look_.hoveredBox && wire == look_.hoveredWire) return;
+  Areas touched = hoveredArea_;
+  look_.hoveredBox = box;
+  look_.hoveredWire = wire;
+  hoveredArea_ = box ? box->bounds : QRectF();
+  if (wire) hoveredArea_ |= wire->bounds;
+  touched |= hoveredArea_;
+  repaintArea(touched);
 }
 
 void Canvas::setAccepts(BoxPainter::Accepts accepts) {
-  accepts_ = std::move(accepts);
+  look_.accepts = std::move(accepts);
+  update();
+}
+
+void Canvas::setReadOnly(const QString& reason) {
+  if (reason == readOnly_) return;
+  readOnly_ = reason;
   update();
 }
 
 void Canvas::setNotice(const QString& text) {
   if (text == notice_) return;
   notice_ = text;
-  update();
+  QWidget::update(noticeArea());
 }
 
 bool Canvas::event(QEvent* event) {
@@ -133,72 +167,77 @@ void Canvas::leaveEvent(QEvent*) {
 bool Canvas::focusNextPrevChild(bool) { return false; }
 
 PaintSettings Canvas::settings() const {
-  return {pixels(), detailAt(pixels() / scene_.theme().scale()), preferences_.wireStyle,
-          preferences_.showValues};
+  return {pixels(),
+          origin_,
+          detailAt(pixels() / scene_.theme().scale()),
+          preferences_.wireStyle,
+          preferences_.showValues,
+          readOnly_.isEmpty()};
 }
 
-void Canvas::paintEvent(QPaintEvent* event) {
+void Canvas::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QRect area = event->rect();
-  painter.fillRect(area, scene_.theme().palette().canvas);
+  paintPicture(painter);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setRenderHint(QPainter::TextAntialiasing);
-  painter.translate(origin_);
-  painter.scale(pixels(), pixels());
-  if (scene_.levelNode()) {
-    paintScene(painter, {toScene(area.topLeft()), QSizeF(area.size()) / pixels()});
+  if (input_ && scene_.levelNode()) {
+    painter.save();
+    painter.translate(origin_);
+    painter.scale(pixels(), pixels());
+    input_->paintGesture(painter, settings());
+    painter.restore();
   }
-  painter.resetTransform();
   paintNotice(painter);
 }
 
-void Canvas::paintScene(QPainter& painter, const QRectF& area) {
-  const PaintSettings settings = this->settings();
-  if (preferences_.showGrid) {
-    paintGrid(painter, area, preferences_.gridStep, pixels(), scene_.theme().palette());
-  }
-  // Backdrops below, sticky notes above.
-  std::vector<const NoteItem*> notes;
-  scene_.notes().search(area, [&notes](NoteItem& note) { notes.push_back(&note); });
-  std::ranges::sort(notes, std::greater(), [](const NoteItem* note) {
-    return note->bounds.width() * note->bounds.height() + (note->isBackdrop() ? 1e12 : 0);
-  });
-  for (const NoteItem* note : notes) {
-    paintNote(painter, *note, scene_.theme(), settings);
-  }
-  visibleWires_.clear();
-  scene_.wires().search(area, [this](Wire& wire) { visibleWires_.push_back(&wire); });
-  const WirePainter wires(scene_.theme(), settings);
-  wires.paint(painter, visibleWires_, hoveredWire_);
-  paintBoxes(painter, area, settings);
-  const bool readable = settings.detail != Detail::Far && settings.showValues;
-  if (readable) wires.paintValues(painter, visibleWires_);
-  if (input_) input_->paintGesture(painter, settings);
+/// What is painted on may have more pixels than the widget's own device.
+void Canvas::paintPicture(QPainter& painter) {
+  const qreal ratio = painter.device()->devicePixelRatioF();
+  const QSize pixelSize(static_cast<int>(std::ceil(width() * ratio)),
+                        static_cast<int>(std::ceil(height() * ratio)));
+  // What was recorded without a change of the graph.
+  repaintArea(scene_.followValues());
+  picture_.look(pixelSize, ratio, {origin_ * ratio, pixels() * ratio});
+  look_.settings = settings();
+  look_.settings.origin = picture_.look().origin;
+  look_.settings.zoom = picture_.look().zoom;
+  look_.gridStep = preferences_.showGrid ? preferences_.gridStep : 0;
+  ScenePainter scenePainter(scene_, look_);
+  picture_.bringUpToDate(
+      [&](QImage& picture, const QRect& area) { scenePainter.paint(picture, area); });
+  drawn_ = {scenePainter.boxCount(), scenePainter.wireCount()};
+  painter.drawImage(QPointF(), picture_.image());
 }
 
-void Canvas::paintBoxes(QPainter& painter, const QRectF& area, const PaintSettings& settings) {
-  visibleBoxes_.clear();
-  // Ports reach over the edges of their boxes.
-  scene_.boxes().search(area.adjusted(-10, 0, 10, 0),
-                        [this](BoxItem& box) { visibleBoxes_.push_back(&box); });
-  drawn_ = {visibleBoxes_.size(), visibleWires_.size()};
-  const BoxPainter boxes(scene_.theme(), settings, accepts_);
-  if (settings.detail == Detail::Far) return boxes.paintFar(painter, visibleBoxes_);
-  std::ranges::sort(visibleBoxes_, {}, &BoxItem::serial);
-  for (BoxItem* box : visibleBoxes_) boxes.paint(painter, *box, box == hoveredBox_);
+QRect Canvas::noticeArea() const {
+  const Theme& theme = scene_.theme();
+  const int inset = theme.pixels(12);
+  const int height = theme.pixels(24);
+  return {inset, this->height() - inset - height, width() - 2 * inset, height};
 }
 
+/// A lock tells from afar that nothing can be edited.
 void Canvas::paintNotice(QPainter& painter) {
   const Theme& theme = scene_.theme();
-  QString text = notice_;
-  if (!scene_.levelNode()) text = QStringLiteral("No graph");
-  if (text.isEmpty()) return;
   painter.setFont(theme.widgetFont());
+  if (!scene_.levelNode()) {
+    painter.setPen(theme.palette().quietText);
+    painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("No graph"));
+    return;
+  }
+  const QString& text = notice_.isEmpty() ? readOnly_ : notice_;
+  if (text.isEmpty()) return;
+  QRect area = noticeArea();
+  const int lock = readOnly_.isEmpty() ? 0 : area.height();
+  const int inset = theme.pixels(8);
+  const int room = area.width() - lock - 2 * inset;
+  const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, room);
+  area.setWidth(painter.fontMetrics().horizontalAdvance(shown) + lock + 2 * inset);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(theme.palette().panel);
+  painter.drawRoundedRect(area, inset / 2.0, inset / 2.0);
+  if (lock) paintLock(painter, QRectF(area.left() + inset / 2.0, area.top(), lock, lock), theme);
   painter.setPen(theme.palette().quietText);
-  const int inset = theme.pixels(12);
-  const QRect area = rect().adjusted(inset, inset, -inset, -inset);
-  painter.drawText(area, scene_.levelNode() ? Qt::AlignLeft | Qt::AlignBottom : Qt::AlignCenter,
-                   text);
+  painter.drawText(area.adjusted(inset + lock, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, shown);
 }
 
 }  // namespace orvuilib

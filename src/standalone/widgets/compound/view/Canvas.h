@@ -3,8 +3,8 @@
 #include <QWidget>
 
 #include "platform/orvUI_1_0/OrvUiApi.h"
-#include "standalone/widgets/compound/paint/BoxPainter.h"
-#include "standalone/widgets/compound/paint/WirePainter.h"
+#include "standalone/widgets/compound/paint/ScenePainter.h"
+#include "standalone/widgets/compound/view/CanvasPicture.h"
 #include "standalone/widgets/compound/view/EditorPreferences.h"
 #include "standalone/widgets/compound/view/Hit.h"
 
@@ -63,16 +63,19 @@ class ORVUI_EXPORT Canvas final : public QWidget {
   /// The point of the scene at the middle, and back to it.
   QPointF centre() const { return toScene(QPointF(width(), height()) / 2); }
 
-  void repaintArea(const QRectF& area);
-
-  /// A pixel in units of the scene.
-  qreal reach() const { return 1 / pixels(); }
+  /// All of it, or what lies there, looks different. What is merely uncovered is not painted anew.
+  void update();
+  void repaintArea(const Areas& areas);
 
   Hit hitAt(const QPointF& scenePoint) const;
   void setHovered(const BoxItem* box, const Wire* wire);
 
   /// While a wire is made: which ports would take it.
   void setAccepts(BoxPainter::Accepts accepts);
+
+  /// Why nothing can be edited here, which is told as long as it is so; empty when it can.
+  void setReadOnly(const QString& reason);
+  const QString& readOnly() const { return readOnly_; }
 
   /// A text that is told quietly at the lower edge; empty is none.
   void setNotice(const QString& text);
@@ -101,24 +104,21 @@ class ORVUI_EXPORT Canvas final : public QWidget {
  private:
   qreal pixels() const { return zoom_ * scene_.theme().scale(); }
   PaintSettings settings() const;
-  void paintScene(QPainter& painter, const QRectF& area);
-  void paintBoxes(QPainter& painter, const QRectF& area, const PaintSettings& settings);
+  void paintPicture(QPainter& painter);
   void paintNotice(QPainter& painter);
+  QRect noticeArea() const;
 
   LevelScene& scene_;
   const EditorPreferences& preferences_;
   CanvasInput* input_ = nullptr;
   qreal zoom_ = 1;
   QPointF origin_;  ///< of the scene, in pixels of the widget
-  const BoxItem* hoveredBox_ = nullptr;
-  const Wire* hoveredWire_ = nullptr;
-  BoxPainter::Accepts accepts_;
+  SceneLook look_;  ///< but for what the zoom makes of it
+  QRectF hoveredArea_;
+  CanvasPicture picture_;
+  QString readOnly_;
   QString notice_;
   Drawn drawn_;
-
-  // Kept for their memory.
-  std::vector<BoxItem*> visibleBoxes_;
-  std::vector<Wire*> visibleWires_;
 };
 
 }  // namespace orvuilib

@@ -8,40 +8,53 @@
 namespace orvuilib {
 namespace {
 
-BoxItem* topBoxNear(const LevelScene& scene, const QPointF& point) {
-  const QRectF near(point.x() - box::kPortReach, point.y(), 2 * box::kPortReach, 0);
-  BoxItem* top = nullptr;
-  scene.boxes().search(near, [&top](BoxItem& box) {
-    if (!top || box.serial > top->serial) top = &box;
-  });
-  return top;
-}
-
-const PortSlot* slotAt(const BoxItem& box, const QPointF& point, bool& onDot) {
+/// Of a port whose label is not painted, the dot alone.
+const PortSlot* slotAt(const BoxItem& box, const QPointF& point, Detail detail, bool& onDot) {
+  onDot = false;
+  if (detail == Detail::Far) return nullptr;
   for (const PortSlot& slot : box.portSlots) {
     if (slot.row < 0) continue;
     const QPointF away = anchorOf(box, slot) - point;
     onDot = std::abs(away.x()) <= box::kPortReach && std::abs(away.y()) <= box::kRow / 2;
-    if (onDot || rowOf(box, slot).contains(point)) return &slot;
+    if (onDot) return &slot;
+    if (detail == Detail::Close && rowOf(box, slot).contains(point)) return &slot;
   }
   return nullptr;
 }
 
+bool isAddRow(const BoxItem& box, const QPointF& point, const PaintSettings& settings) {
+  if (settings.detail != Detail::Close || !settings.editable) return false;
+  const bool addsPorts = box.kind != BoxKind::Node || (!box.node->compound() && compoundOf(box));
+  return addsPorts && addRowOf(box).contains(point);
+}
+
 /// False when the point is beside the box after all.
-bool hitBox(BoxItem& box, const QPointF& point, Hit& hit) {
-  hit.slot = slotAt(box, point, hit.onDot);
+bool hitBox(BoxItem& box, const QPointF& point, const PaintSettings& settings, Hit& hit) {
+  hit.slot = slotAt(box, point, settings.detail, hit.onDot);
   const bool inside = box.bounds.contains(point);
   if (!inside && !hit.onDot) return false;
   hit.box = &box;
-  const bool addsPorts = box.kind != BoxKind::Node || (!box.node->compound() && compoundOf(box));
+  const bool inTitle = point.y() < box.bounds.top() + box::kTitle;
   if (hit.slot) {
     hit.part = Hit::Part::Port;
-  } else if (addsPorts && addRowOf(box).contains(point)) {
+  } else if (isAddRow(box, point, settings)) {
     hit.part = Hit::Part::AddPort;
   } else {
-    hit.part = point.y() < box.bounds.top() + box::kTitle ? Hit::Part::Title : Hit::Part::Body;
+    hit.part = inTitle && settings.detail != Detail::Far ? Hit::Part::Title : Hit::Part::Body;
   }
   return true;
+}
+
+/// Dots reach over the edges of their boxes.
+bool hitTopBox(const LevelScene& scene, const QPointF& point, const PaintSettings& settings,
+               Hit& hit) {
+  const QRectF near(point.x() - box::kPortReach, point.y(), 2 * box::kPortReach, 0);
+  scene.boxes().search(near, [&](BoxItem& box) {
+    Hit here;
+    if (hit.box && box.serial < hit.box->serial) return;
+    if (hitBox(box, point, settings, here)) hit = here;
+  });
+  return hit.box;
 }
 
 Wire* wireAt(const LevelScene& scene, const QPointF& point, WireStyle style, qreal reach) {
@@ -57,33 +70,44 @@ Wire* wireAt(const LevelScene& scene, const QPointF& point, WireStyle style, qre
   return nearest;
 }
 
-/// Sticky notes lie above backdrops, and smaller backdrops above larger ones.
-NoteItem* noteAt(const LevelScene& scene, const QPointF& point) {
+bool isOnHandle(const NoteItem& note, const QPointF& point, Detail detail) {
+  return detail != Detail::Far && handleOf(note).contains(point);
+}
+
+/// Smaller ones lie above larger ones. A backdrop is taken by its head and its handle.
+NoteItem* noteAt(const LevelScene& scene, const QPointF& point, bool backdrops, Detail detail) {
   NoteItem* top = nullptr;
   const auto area = [](const NoteItem& note) { return note.bounds.width() * note.bounds.height(); };
   scene.notes().search(QRectF(point, QSizeF(0, 0)), [&](NoteItem& note) {
-    if (!headOf(note).contains(point) && !handleOf(note).contains(point)) return;
-    const bool above = !top || (top->isBackdrop() && !note.isBackdrop()) || area(note) < area(*top);
-    if (above) top = &note;
+    if (note.isBackdrop() != backdrops) return;
+    if (!headOf(note).contains(point) && !isOnHandle(note, point, detail)) return;
+    if (!top || area(note) < area(*top)) top = &note;
   });
   return top;
 }
 
+bool hitNote(const LevelScene& scene, const QPointF& point, bool backdrops, Detail detail,
+             Hit& hit) {
+  hit.note = noteAt(scene, point, backdrops, detail);
+  if (!hit.note) return false;
+  hit.part = isOnHandle(*hit.note, point, detail) ? Hit::Part::NoteHandle : Hit::Part::Note;
+  return true;
+}
+
 }  // namespace
 
-Hit hitAt(const LevelScene& scene, const QPointF& point, WireStyle style, qreal reach) {
+/// From above: sticky notes, boxes, wires, backdrops.
+Hit hitAt(const LevelScene& scene, const QPointF& point, const PaintSettings& settings) {
   Hit hit;
-  BoxItem* box = topBoxNear(scene, point);
-  if (box && hitBox(*box, point, hit)) return hit;
-  hit = {};
-  hit.wire = wireAt(scene, point, style, box::kWireReach * std::max(reach, 1.0));
+  if (hitNote(scene, point, false, settings.detail, hit)) return hit;
+  if (hitTopBox(scene, point, settings, hit)) return hit;
+  const qreal reach = box::kWireReach * std::max(1 / settings.zoom, 1.0);
+  hit.wire = wireAt(scene, point, settings.wireStyle, reach);
   if (hit.wire) {
     hit.part = Hit::Part::Wire;
-    return hit;
+  } else {
+    hitNote(scene, point, true, settings.detail, hit);
   }
-  hit.note = noteAt(scene, point);
-  if (!hit.note) return hit;
-  hit.part = handleOf(*hit.note).contains(point) ? Hit::Part::NoteHandle : Hit::Part::Note;
   return hit;
 }
 

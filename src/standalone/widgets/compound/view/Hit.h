@@ -1,7 +1,7 @@
 #pragma once
 
+#include "standalone/widgets/compound/paint/Detail.h"
 #include "standalone/widgets/compound/scene/LevelScene.h"
-#include "standalone/widgets/compound/scene/WireShape.h"
 
 namespace orvuilib {
 
@@ -20,8 +20,9 @@ struct Hit {
   orvlib::PortObject* port() const { return slot ? slot->port.get() : nullptr; }
 };
 
-/// The topmost thing at the point. `reach` is how many units of the canvas a pixel is.
-Hit hitAt(const LevelScene& scene, const QPointF& point, WireStyle style, qreal reach);
+/// The topmost thing at the point, a point of the scene. What is not painted with these settings is
+/// not hit.
+Hit hitAt(const LevelScene& scene, const QPointF& point, const PaintSettings& settings);
 
 /// The wire that crosses the box and does not belong to it; null when there is none.
 Wire* wireThrough(const LevelScene& scene, const BoxItem& box, WireStyle style);

@@ -27,7 +27,7 @@ class LevelSceneTest : public CommandTest, private orvlib::ChangeListener {
 
   Theme theme{1};
   LevelScene scene;
-  QRectF touched;
+  Areas touched;
 };
 
 std::string textOf(const BoxItem& box) {
@@ -119,7 +119,7 @@ TEST_F(LevelSceneTest, AnEditOfOneNodeTouchesItsPartAlone) {
   host.run("orvNode g /add -setMetaData editor.position 0,0");
   host.run("orvNode g /add1 -setMetaData editor.position 5000,5000");
   host.run("orvNode g /add -setPortDefaultValues a 2");
-  EXPECT_EQ(touched, box("/add")->bounds);
+  EXPECT_EQ(touched.bounds(), box("/add")->bounds);
 }
 
 TEST_F(LevelSceneTest, WhatHasNoPlaceStandsInColumnsByItsWires) {
@@ -140,6 +140,30 @@ TEST_F(LevelSceneTest, WhatComesWithoutAPlaceLiesOnNothing) {
       }
     });
   });
+}
+
+TEST_F(LevelSceneTest, NotesWithoutAPlaceLieOnNothing) {
+  for (int i = 0; i < 3; ++i) host.run("orvCompound g / -addNode core::math::add");
+  host.run("orvCompound g / -addBackdrop one -addStickyNote two -addStickyNote three");
+  LevelScene fresh(theme);
+  fresh.show(&container().top());
+  for (const LevelScene* each : {&scene, &fresh}) {
+    each->forEachNote([each](const NoteItem& note) {
+      int touching = 0;
+      each->boxes().search(note.bounds, [&touching](const BoxItem&) { ++touching; });
+      each->notes().search(note.bounds, [&touching](const NoteItem&) { ++touching; });
+      EXPECT_EQ(touching, 1) << note.text.toStdString();
+    });
+  }
+}
+
+TEST_F(LevelSceneTest, AValueTouchesItsNodeAlone) {
+  host.run("orvCompound g / -addNode core::math::add -addNode core::math::add");
+  host.run("orvNode g /add -setMetaData editor.position 0,0");
+  host.run("orvNode g /add1 -setMetaData editor.position 5000,5000");
+  host.run("orvConnect g /add.result /add1.a");
+  host.run("orvNode g /add1 -setPortDefaultValues b 2");
+  EXPECT_EQ(touched.bounds(), box("/add1")->bounds);
 }
 
 TEST_F(LevelSceneTest, MembersOfAFanInPortHaveRowsOfTheirOwn) {

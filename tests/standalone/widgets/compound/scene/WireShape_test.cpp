@@ -21,11 +21,25 @@ TEST(WireShape, LiesInItsBoundsInEveryStyleAndDirection) {
   }
 }
 
-TEST(WireShape, ItsMiddleIsOnItAndFarPointsAreNot) {
+TEST(WireShape, ItsPointsAreOnItAndFarPointsAreNot) {
   for (const WireStyle style : kStyles) {
-    const QPointF middle = wireMiddle({0, 0}, {200, 100}, style);
-    EXPECT_LT(distanceToWire(middle, {0, 0}, {200, 100}, style), 1);
+    WirePoints points;
+    const auto line = wirePoints({0, 0}, {200, 100}, style, 1, points);
+    EXPECT_EQ(line.front(), QPointF(0, 0));
+    EXPECT_EQ(line.back(), QPointF(200, 100));
+    for (const QPointF& point : line) {
+      EXPECT_LT(distanceToWire(point, {0, 0}, {200, 100}, style), 1);
+    }
     EXPECT_GT(distanceToWire({100, 300}, {0, 0}, {200, 100}, style), 150);
+  }
+}
+
+TEST(WireShape, LooksAlikeAtEachZoom) {
+  for (const WireStyle style : kStyles) {
+    WirePoints points;
+    for (const QPointF& point : wirePoints({0, 0}, {600, 900}, style, 3, points)) {
+      EXPECT_LT(distanceToWire(point / 3, {0, 0}, {200, 300}, style), 1);
+    }
   }
 }
 
