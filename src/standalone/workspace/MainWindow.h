@@ -57,6 +57,7 @@ class MainWindow final : public QMainWindow {
   void watchSession();
   void lineEnded();
   void followScale();
+  void scaleColumns(double factor);
   void refreshTitle();
 
   HostSession& session_;

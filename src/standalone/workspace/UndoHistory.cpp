@@ -18,6 +18,7 @@ UndoHistory::UndoHistory(HostSession& session)
   setFocusProxy(view_);
   view_->setModel(&model_);
   view_->setUniformItemSizes(true);
+  view_->setVerticalScrollMode(QListView::ScrollPerPixel);
   view_->setFrameShape(QFrame::NoFrame);
   view_->setEditTriggers(QListView::NoEditTriggers);
   view_->setSelectionMode(QListView::SingleSelection);

@@ -53,6 +53,23 @@ TEST(MainWindow, FollowsTheScaleThatTheUserChooses) {
   EXPECT_EQ(w.window().font().pixelSize(), font);
 }
 
+TEST(MainWindow, ColumnsFollowTheScaleAndTheRestIsForTheOthers) {
+  Window w;
+  w.window().resize(1920, 1080);
+  w.run("workspaceControl -initialWidth 300 side");
+  const auto width = [&](const char* name) { return w.panels().find(name)->width(); };
+  const int outliner = width("outliner");
+  const int side = width("side");
+  w.run("optionVar -intValue interfaceScale 150");
+  EXPECT_NEAR(width("outliner"), outliner * 3 / 2, 2);
+  EXPECT_EQ(width("undoHistory"), width("outliner"));
+  EXPECT_NEAR(width("side"), side * 3 / 2, 2);
+  EXPECT_EQ(w.window().width(), 1920);
+  w.run("optionVar -intValue interfaceScale 100");
+  EXPECT_NEAR(width("outliner"), outliner, 2);
+  EXPECT_NEAR(width("side"), side, 2);
+}
+
 TEST(MainWindow, TheScaleOfARunGoesAheadUntilTheUserChoosesAnother) {
   Window w;
   w.run("optionVar -intValue interfaceScale 125");
