@@ -4,10 +4,8 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
-#include <QLayout>
 #include <QScreen>
 #include <algorithm>
-#include <map>
 #include <utility>
 
 #include "standalone/host/engine/AtomicFile.h"
@@ -46,6 +44,7 @@ MainWindow::MainWindow(HostSession& session, WindowOptions options)
       chosenScale_(chosenInterfaceScale()),
       appliedScale_(0),
       panels_(*this, session, workspace_),
+      columns_(*this, panels_),
       idle_([this] { session_.runIdleLines(); }),
       title_([this] { refreshTitle(); }) {
   currentWindow = this;
@@ -122,29 +121,14 @@ void MainWindow::followScale() {
   chosenScale_ = chosen;
   if (interfaceScale() == appliedScale_) return;
   const int former = std::exchange(appliedScale_, interfaceScale());
+  if (former != 0) columns_.note();
   theme::apply();
-  if (former != 0) scaleColumns(double(appliedScale_) / former);
+  if (former != 0) columns_.restore(double(appliedScale_) / former);
 }
 
-/// Columns go on showing what they show; what stands between them has the rest.
-void MainWindow::scaleColumns(double factor) {
-  layout()->activate();
-  QList<QDockWidget*> seen;
-  std::map<int, int> growth;  // of columns, by their left edges: panels of one share it
-  for (Panel* panel : panels_.panels()) {
-    if (panel->isFloating() || panel->visibleRegion().isEmpty()) continue;
-    seen.append(panel);
-    if (panel->isNarrow()) growth[panel->x()] = qRound(panel->width() * (factor - 1));
-  }
-  int rest = 0;
-  for (const auto& [edge, pixels] : growth) rest -= pixels;
-  QList<int> widths;
-  for (const QDockWidget* panel : seen) {
-    const auto column = growth.find(panel->x());
-    const int more = column == growth.end() ? rest : column->second;
-    widths.append(std::max(panel->width() + more, 1));
-  }
-  resizeDocks(seen, widths, Qt::Horizontal);
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  columns_.restore();
 }
 
 void MainWindow::refreshTitle() {
