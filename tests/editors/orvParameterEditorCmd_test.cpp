@@ -92,4 +92,22 @@ TEST_F(ParameterEditorCmd, ClosesThePanelsWhoseEditorIsThere) {
   EXPECT_THAT(panelLines(), IsEmpty());
 }
 
+TEST_F(ParameterEditorCmd, ClosesAlsoThePanelOfAnEditorThatStandsElsewhere) {
+  host.run("orvParameterEditor");
+  panelLines();
+  parameterEditors[0]->setParent(nullptr);
+  delete parameterPanels[0];
+  closeParameterEditors();
+  EXPECT_THAT(panelLines(), ElementsAre("workspaceControl -e -close orvParameterEditorControl"));
+}
+
+TEST_F(ParameterEditorCmd, APanelWithoutItsEditorIsOnlyBroughtBack) {
+  host.run("orvParameterEditor -info");
+  delete parameterEditors[1];
+  panelLines();
+  host.run("orvParameterEditor -info -reload");
+  EXPECT_THAT(panelLines(), ElementsAre("workspaceControl -e -restore orvInfoPanelControl"));
+  EXPECT_FALSE(parameterEditors[1]);
+}
+
 }  // namespace

@@ -10,7 +10,7 @@ VESK_API_OPEN
 class VESK_EXPORT KQtUtil {
  public:
   /// The widget of the layout that is current; after a `workspaceControl` line that panel's content
-  /// area. Null when there is no window.
+  /// area, until the next line that no command runs. Null when there is no window.
   static QWidget* getCurrentParent();
 
   /// Docks the child into the parent's layout, whose Qt parent chain then owns it. `name` becomes

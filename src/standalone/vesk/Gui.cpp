@@ -2,7 +2,6 @@
 
 #include <QElapsedTimer>
 #include <clocale>
-#include <cstdlib>
 #include <iostream>
 
 #include "standalone/colour/ColourService.h"
@@ -18,11 +17,6 @@ void passOn(QtMsgType type, const QMessageLogContext& context, const QString& te
   }
 }
 
-bool isSet(const char* variable) {
-  const char* value = std::getenv(variable);
-  return value && *value;
-}
-
 /// What the window offers for the graphs that this program adds to the host.
 WindowOptions windowOptions(const ProgramOptions& options) {
   WindowOptions window;
@@ -35,10 +29,6 @@ WindowOptions windowOptions(const ProgramOptions& options) {
 }
 
 }  // namespace
-
-bool hasDisplay() {
-  return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
-}
 
 /// Qt sets the locale anew when its application is made; what the program has chosen stays.
 Gui::Gui() {
@@ -65,6 +55,8 @@ std::unique_ptr<MainWindow> Gui::open(HostSession& session, const ProgramOptions
 void Gui::settle() {
   QCoreApplication::sendPostedEvents();
   QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  // Qt leaves these for its event loop, which does not run yet.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Gui::settleSometimes() {

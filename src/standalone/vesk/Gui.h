@@ -12,9 +12,6 @@
 
 namespace vesk {
 
-/// Whether a window can be seen, or drawn where nobody sees it.
-bool hasDisplay();
-
 /// The application behind a window, with the clipboard of the window system. It is made once, ahead
 /// of the session, and goes after it.
 class Gui {
@@ -24,7 +21,8 @@ class Gui {
   /// A shown window. When somebody sits in front of it, it comes with the saved workspace.
   std::unique_ptr<MainWindow> open(HostSession& session, const ProgramOptions& options);
 
-  /// Lets what a line left for later happen, but no key or click.
+  /// Lets what a line left for later happen, deletions too, but no key or click. Not from within a
+  /// line.
   static void settle();
 
   /// The same, but not sooner than a tenth of a second after the last time: what thousands of lines

@@ -9,6 +9,7 @@
 #include "standalone/host/engine/AtomicFile.h"
 #include "standalone/host/engine/HostVersion.h"
 #include "standalone/host/engine/ScriptReader.h"
+#include "standalone/vesk/Display.h"
 #include "standalone/vesk/Gui.h"
 #include "standalone/vesk/LineSource.h"
 #include "standalone/vesk/Prompt.h"
@@ -103,6 +104,7 @@ int runAll(const ProgramOptions& options, LineListener& listener, Console& conso
   } else {
     runner.run(prompt(session), false);
   }
+  if (gui) Gui::settle();
   return runner.exitStatus();
 }
 
@@ -156,11 +158,15 @@ std::string scriptUnderJournal(const ProgramOptions& options) {
   return {};
 }
 
-/// Null when no window is asked for, or there is no display to show it on.
+/// Null when no window is asked for, or none can be shown.
 std::unique_ptr<Gui> makeGui(const ProgramOptions& options) {
   if (!options.gui) return nullptr;
-  if (hasDisplay()) return std::make_unique<Gui>();
-  std::cerr << "vesk: there is no display, so there is no window" << std::endl;
+  const Display display = findDisplay();
+  if (display == Display::There) return std::make_unique<Gui>();
+  std::cerr << (display == Display::None
+                    ? "vesk: there is no display, so there is no window"
+                    : "vesk: the display cannot be reached, so there is no window")
+            << std::endl;
   return nullptr;
 }
 

@@ -3,6 +3,8 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QScrollBar>
+#include <QTextBlock>
+#include <QtMath>
 #include <algorithm>
 #include <memory>
 
@@ -13,6 +15,7 @@ namespace {
 
 constexpr int kMostLines = 10'000;
 constexpr int kLongestLine = 2'000;  // characters
+constexpr int kMargin = 4;           // of the text, and of the view around it, at 100 percent
 
 struct KindRow {
   const char* mark;
@@ -47,8 +50,9 @@ CommandLog::CommandLog(QWidget* parent) : QPlainTextEdit(parent), flush_([this] 
   setUndoRedoEnabled(false);
   setMaximumBlockCount(kMostLines);
   setFrameShape(QFrame::NoFrame);
-  setFont(theme::codeFont());
-  document()->setDocumentMargin(theme::scaled(8));
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
+  applyFont();
   setTabChangesFocus(true);
   setAccessibleName("What ran");
   setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -80,6 +84,7 @@ void CommandLog::flush() {
     cursor.insertText(line, inColour(row.colour));
   }
   cursor.endEditBlock();
+  fitMargins();
   if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
@@ -89,6 +94,7 @@ bool CommandLog::isAtEnd() const {
 
 void CommandLog::resizeEvent(QResizeEvent* event) {
   const bool atEnd = isAtEnd();
+  fitMargins();
   QPlainTextEdit::resizeEvent(event);
   if (atEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
@@ -100,9 +106,26 @@ void CommandLog::clearLog() {
 
 void CommandLog::changeEvent(QEvent* event) {
   QPlainTextEdit::changeEvent(event);
-  if (event->type() != QEvent::StyleChange) return;
+  if (event->type() == QEvent::StyleChange) applyFont();
+}
+
+void CommandLog::applyFont() {
   setFont(theme::codeFont());
-  document()->setDocumentMargin(theme::scaled(8));
+  document()->setDocumentMargin(theme::scaled(kMargin));
+  fitMargins();
+}
+
+/// That of the lines that are laid out may be a pixel more than that of the font.
+int CommandLog::lineHeight() const {
+  const QTextLayout* layout = document()->firstBlock().layout();
+  return layout->lineCount() > 0 ? qCeil(layout->lineAt(0).height()) : fontMetrics().lineSpacing();
+}
+
+/// The view shows whole lines: what is left over of its height lies ahead of the first.
+void CommandLog::fitMargins() {
+  const int margin = theme::scaled(kMargin);
+  const int room = contentsRect().height() - 2 * margin - 1;  // as Qt reckons with
+  setViewportMargins(margin, std::max(room, 0) % lineHeight(), 0, 0);
 }
 
 void CommandLog::contextMenuEvent(QContextMenuEvent* event) {

@@ -30,6 +30,9 @@ class CommandLog final : public QPlainTextEdit {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  void applyFont();
+  int lineHeight() const;
+  void fitMargins();
   void flush();
   bool isAtEnd() const;
 

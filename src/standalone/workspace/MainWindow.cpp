@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QScreen>
+#include <algorithm>
 #include <utility>
 
 #include "standalone/host/engine/AtomicFile.h"
@@ -25,11 +26,13 @@ MainWindow* currentWindow = nullptr;
 
 constexpr QSize kInitialSize(1280, 800);  // at 100 percent
 constexpr int kColumnWidth = 320;         // of the outliner and the history, likewise
+constexpr int kCommandsWidth = 640;       // in a window of their own, likewise
 
-PanelSettings ownPanel(const char* name, const char* label) {
+PanelSettings ownPanel(const char* name, const char* label, int width) {
   PanelSettings settings;
   settings.name = name;
   settings.label = label;
+  settings.initialWidth = width;
   return settings;
 }
 
@@ -41,6 +44,7 @@ MainWindow::MainWindow(HostSession& session, WindowOptions options)
       chosenScale_(chosenInterfaceScale()),
       appliedScale_(0),
       panels_(*this, session, workspace_),
+      columns_(*this, panels_),
       idle_([this] { session_.runIdleLines(); }),
       title_([this] { refreshTitle(); }) {
   currentWindow = this;
@@ -71,11 +75,11 @@ void MainWindow::setInitialSize() {
 }
 
 void MainWindow::addOwnPanels() {
-  panels_.create(ownPanel("outliner", "Outliner"),
+  panels_.create(ownPanel("outliner", "Outliner", kColumnWidth),
                  [this] { return new Outliner(session_, options_.openers); });
-  panels_.create(ownPanel("undoHistory", "Undo History"),
+  panels_.create(ownPanel("undoHistory", "Undo History", kColumnWidth),
                  [this] { return new UndoHistory(session_); });
-  panels_.create(ownPanel("commandPanel", "Commands"),
+  panels_.create(ownPanel("commandPanel", "Commands", kCommandsWidth),
                  [this] { return new CommandPanel(session_); });
   arrangeOwnPanels();
   workspace_.setCurrentParent(nullptr);
@@ -92,7 +96,7 @@ void MainWindow::arrangeOwnPanels() {
   addDockWidget(Qt::LeftDockWidgetArea, outliner);
   splitDockWidget(outliner, commands, Qt::Horizontal);
   splitDockWidget(outliner, history, Qt::Vertical);
-  const int column = theme::scaled(kColumnWidth);
+  const int column = std::min(theme::scaled(kColumnWidth), width() / 4);
   resizeDocks({outliner, commands}, {column, width() - column}, Qt::Horizontal);
   resizeDocks({outliner, history}, {height() * 3 / 5, height() * 2 / 5}, Qt::Vertical);
 }
@@ -116,8 +120,15 @@ void MainWindow::followScale() {
   if (appliedScale_ != 0 && chosen != chosenScale_) workspace_.scaleForThisRun = 0;
   chosenScale_ = chosen;
   if (interfaceScale() == appliedScale_) return;
-  appliedScale_ = interfaceScale();
+  const int former = std::exchange(appliedScale_, interfaceScale());
+  if (former != 0) columns_.note();
   theme::apply();
+  if (former != 0) columns_.restore(double(appliedScale_) / former);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  columns_.restore();
 }
 
 void MainWindow::refreshTitle() {
@@ -146,7 +157,7 @@ std::string MainWindow::workspacePath() const {
 WorkspaceState MainWindow::workspaceState() const {
   WorkspaceState state{saveGeometry(), saveState(), {}};
   for (const Panel* panel : panels_.panels()) {
-    if (panel->makeContent || panel->settings().uiScript.empty()) continue;
+    if (panel->isOwn() || panel->settings().uiScript.empty()) continue;
     PanelSettings settings = panel->settings();
     settings.floating = panel->isFloating();
     settings.visible = panel->isShown();

@@ -7,6 +7,7 @@
 
 #include "standalone/host/engine/Observers.h"
 #include "standalone/workspace/Coalesced.h"
+#include "standalone/workspace/Columns.h"
 #include "standalone/workspace/PanelSet.h"
 #include "standalone/workspace/WindowOptions.h"
 #include "standalone/workspace/Workspace.h"
@@ -46,6 +47,7 @@ class MainWindow final : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void addOwnPanels();
@@ -65,6 +67,7 @@ class MainWindow final : public QMainWindow {
   int chosenScale_;   ///< the user's, as last seen
   int appliedScale_;  ///< that the window has
   PanelSet panels_;
+  Columns columns_;
   std::unique_ptr<MainMenu> menu_;
   Coalesced idle_;
   Coalesced title_;

@@ -24,7 +24,10 @@ NodeView::NodeView(NodeModel& model) {
   setAccessibleName("Nodes of the scene");
   header()->setSectionsMovable(false);
   header()->setHighlightSections(false);
-  header()->setStretchLastSection(true);
+  header()->setStretchLastSection(false);
+  header()->setSectionResizeMode(NodeModel::Type, QHeaderView::Stretch);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollMode(ScrollPerPixel);
 }
 
 void NodeView::fitColumns() {

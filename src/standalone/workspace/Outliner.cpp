@@ -1,5 +1,6 @@
 #include "standalone/workspace/Outliner.h"
 
+#include <QEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QVBoxLayout>
@@ -18,17 +19,16 @@ Outliner::Outliner(HostSession& session, std::vector<WindowOptions::NodeOpener> 
     : session_(session),
       openers_(std::move(openers)),
       model_(session.scene()),
+      top_(new QHBoxLayout),
       filter_(new QLineEdit),
       view_(new NodeView(model_)),
       refresh_([this] { refresh(); }) {
   auto* layout = new QVBoxLayout(this);
-  const int gap = theme::scaled(5);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  auto* top = new QHBoxLayout;
-  top->setContentsMargins(gap, gap, gap, gap);
-  top->addWidget(filter_);
-  layout->addLayout(top);
+  top_->addWidget(filter_);
+  layout->addLayout(top_);
+  applySizes();
   layout->addWidget(view_, 1);
   setFocusProxy(view_);
   filter_->setPlaceholderText("Find nodes");
@@ -48,6 +48,17 @@ Outliner::Outliner(HostSession& session, std::vector<WindowOptions::NodeOpener> 
 
 /// The view goes ahead of its model.
 Outliner::~Outliner() { delete view_; }
+
+void Outliner::applySizes() {
+  const int gap = theme::scaled(5);
+  top_->setContentsMargins(gap, gap, gap, gap);
+  filter_->setTextMargins(gap, 0, gap, 0);
+}
+
+void Outliner::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::StyleChange) applySizes();
+}
 
 void Outliner::refresh() {
   view_->setRefreshing(true);

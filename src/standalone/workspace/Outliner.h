@@ -9,6 +9,7 @@
 #include "standalone/workspace/NodeModel.h"
 #include "standalone/workspace/WindowOptions.h"
 
+class QHBoxLayout;
 class QLineEdit;
 
 namespace vesk {
@@ -23,7 +24,11 @@ class Outliner final : public QWidget {
   Outliner(HostSession& session, std::vector<WindowOptions::NodeOpener> openers);
   ~Outliner() override;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
+  void applySizes();
   void refresh();
   void showSceneSelection();
   void selectInScene();
@@ -36,6 +41,7 @@ class Outliner final : public QWidget {
   HostSession& session_;
   std::vector<WindowOptions::NodeOpener> openers_;
   NodeModel model_;
+  QHBoxLayout* top_;  ///< around the filter
   QLineEdit* filter_;
   NodeView* view_;
   Coalesced refresh_;

@@ -33,7 +33,7 @@ constexpr const char* kNoteName = "panelNote";
 
 Panel::Panel(PanelSettings settings, QWidget* parent)
     : QDockWidget(parent), settings_(std::move(settings)) {
-  setObjectName(QString::fromStdString("panel " + settings_.name));
+  setKnown(true);
   setWindowTitle(QString::fromStdString(settings_.label));
   setWidget(new ContentArea(*this));
 }
@@ -41,6 +41,11 @@ Panel::Panel(PanelSettings settings, QWidget* parent)
 void Panel::setLabel(std::string label) {
   settings_.label = std::move(label);
   setWindowTitle(QString::fromStdString(settings_.label));
+}
+
+/// The window tells panels apart by their object names.
+void Panel::setKnown(bool known) {
+  setObjectName(known ? QString::fromStdString("panel " + settings_.name) : QString());
 }
 
 bool Panel::isEmpty() const {

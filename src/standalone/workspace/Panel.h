@@ -3,6 +3,7 @@
 #include <QDockWidget>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace vesk {
 
@@ -30,9 +31,15 @@ class Panel final : public QDockWidget {
   Panel(PanelSettings settings, QWidget* parent);
 
   const std::string& name() const { return settings_.name; }
+
+  /// One of the host's own: it is always there, and no lines make its content.
+  bool isOwn() const { return makeContent != nullptr; }
   const PanelSettings& settings() const { return settings_; }
   PanelSettings& settings() { return settings_; }
   void setLabel(std::string label);
+
+  /// Whether it goes by its name: one that is closed makes room for a new panel of the name.
+  void setKnown(bool known);
 
   /// Where widgets are docked; it has a layout.
   QWidget* content() const { return widget(); }
@@ -53,6 +60,9 @@ class Panel final : public QDockWidget {
 
   /// Called when the user closes the panel, in place of closing it.
   std::function<void()> closeAsked;
+
+  /// The plug-ins whose commands were at work when it was made.
+  std::vector<std::string> makers;
 
   bool loaded = false;  ///< the content has been made
   bool tried = false;   ///< it was to be made, well or not

@@ -11,7 +11,6 @@
 
 #include "standalone/host/engine/HostSession.h"
 #include "standalone/host/language/Tokenizer.h"
-#include "standalone/workspace/Theme.h"
 #include "standalone/workspace/Workspace.h"
 #include "standalone/workspace/WorkspaceApplication.h"
 
@@ -40,6 +39,11 @@ std::vector<QPointer<QWidget>> widgetsOf(const Plugin& plugin) {
 PanelSet::PanelSet(QMainWindow& window, HostSession& session, Workspace& workspace)
     : window_(window), session_(session), workspace_(workspace) {
   session_.plugins().setHolder(this);
+  // What a line builds goes into a panel of its own. Nobody knows which panel a line that cannot be
+  // read was to make.
+  lines_ = session_.engine().lineBegan().add([this](const BegunLine& line) {
+    if (line.outermost || !line.readable) workspace_.setCurrentParent(nullptr);
+  });
 }
 
 PanelSet::~PanelSet() {
@@ -59,6 +63,20 @@ Panel* PanelSet::find(const std::string& name) const {
   return found == panels_.end() ? nullptr : *found;
 }
 
+Panel* PanelSet::findOrRecall(const std::string& name) {
+  if (Panel* panel = find(name)) return panel;
+  const auto closed =
+      std::find_if(closed_.rbegin(), closed_.rend(),
+                   [&](const QPointer<Panel>& panel) { return panel && panel->name() == name; });
+  if (closed == closed_.rend()) return nullptr;
+  Panel* panel = *closed;
+  std::erase(closed_, panel);
+  WorkspaceApplication::keep(*panel);
+  panel->setKnown(true);
+  panels_.push_back(panel);
+  return panel;
+}
+
 Panel* PanelSet::create(PanelSettings settings, Panel::ContentMaker makeContent) {
   if (settings.name.empty() || find(settings.name)) return nullptr;
   auto* panel = new Panel(std::move(settings), &window_);
@@ -66,73 +84,19 @@ Panel* PanelSet::create(PanelSettings settings, Panel::ContentMaker makeContent)
   panels_.push_back(panel);
   for (const auto& plugin : session_.plugins().plugins()) {
     if (session_.engine().isRunningCommandOf(plugin.get())) {
-      makers_[panel].push_back(plugin->name());
+      panel->makers.push_back(plugin->name());
     }
   }
   watch(*panel);
   dock(*panel);
-  workspace_.setCurrentParent(panel->content());
+  makeCurrent(*panel);
   if (panel->settings().loadImmediately) load(*panel);
   return panel;
 }
 
-void PanelSet::dock(Panel& panel) {
-  window_.addDockWidget(Qt::LeftDockWidgetArea, &panel);
-  if (panel.settings().floating) {
-    panel.setFloating(true);
-    panel.resize(panel.sizeHint());
-  } else {
-    place(panel);
-  }
-  panel.setVisible(panel.settings().visible);
-  if (panel.settings().visible) panel.raise();
-}
-
-/// Narrow panels stand in a column at the side, wide ones above the last of the host's own; those
-/// behind the first one of either are tabs.
-void PanelSet::place(Panel& panel) {
-  panel.placed = true;
-  if (panel.makeContent) return;
-  Panel* beside = nullptr;
-  Panel* below = nullptr;
-  for (Panel* other : panels_) {
-    if (other == &panel || !other || !other->isShown() || other->isFloating()) continue;
-    if (other->makeContent) {
-      below = other;
-    } else if (other->isNarrow() == panel.isNarrow()) {
-      beside = other;
-    }
-  }
-  if (beside) {
-    window_.tabifyDockWidget(beside, &panel);
-  } else if (panel.isNarrow()) {
-    putAtTheSide(panel, below);
-  } else if (below) {
-    putAbove(panel, *below);
-  }
-}
-
-void PanelSet::putAtTheSide(Panel& panel, Panel* neighbour) {
-  window_.addDockWidget(Qt::RightDockWidgetArea, &panel);
-  if (!neighbour) return;
-  const int room = neighbour->width();
-  const int width = std::min(theme::scaled(panel.settings().initialWidth), room / 2);
-  window_.resizeDocks({neighbour, &panel}, {room - width, width}, Qt::Horizontal);
-}
-
-void PanelSet::setFloating(Panel& panel, bool floating) {
-  const bool comesIn = !floating && panel.isFloating() && !panel.placed;
-  panel.setFloating(floating);
-  if (comesIn) place(panel);
-}
-
-void PanelSet::putAbove(Panel& panel, Panel& below) {
-  const int height = theme::scaled(panel.settings().initialHeight);
-  const int room = below.height();
-  window_.splitDockWidget(&below, &panel, Qt::Vertical);
-  window_.splitDockWidget(&panel, &below, Qt::Vertical);  // changes places
-  const int wanted = std::min(height, room * 3 / 4);
-  window_.resizeDocks({&panel, &below}, {wanted, room - wanted}, Qt::Vertical);
+/// Into the host's own panels nobody else builds.
+void PanelSet::makeCurrent(const Panel& panel) {
+  workspace_.setCurrentParent(panel.isOwn() ? nullptr : panel.content());
 }
 
 void PanelSet::watch(Panel& panel) {
@@ -142,10 +106,8 @@ void PanelSet::watch(Panel& panel) {
   QObject::connect(&panel, &QDockWidget::visibilityChanged, &panel, [this, &panel](bool seen) {
     if (seen && !panel.tried) loadWhenSeen(panel);
   });
-  QObject::connect(&panel, &QObject::destroyed, &window_, [this, gone = &panel] {
-    std::erase(panels_, gone);
-    makers_.erase(gone);
-  });
+  QObject::connect(&panel, &QObject::destroyed, &window_,
+                   [this, gone = &panel] { std::erase(panels_, gone); });
 }
 
 /// Not from within the events that show it: the lines may do anything.
@@ -163,7 +125,7 @@ void PanelSet::restore(Panel& panel) {
   panel.raise();
   if (panel.isFloating()) panel.activateWindow();
   load(panel);
-  workspace_.setCurrentParent(panel.content());
+  makeCurrent(panel);
 }
 
 void PanelSet::setVisible(Panel& panel, bool visible) {
@@ -188,22 +150,28 @@ void PanelSet::deletePanel(Panel& panel) {
   std::erase(closed_, nullptr);
   closed_.emplace_back(&panel);
   if (panel.settings().deleteLater) {
-    panel.deleteLater();
+    QMetaObject::invokeMethod(
+        &panel, [this, &panel] { deleteIfClosed(panel); }, Qt::QueuedConnection);
   } else {
     WorkspaceApplication::deleteWhenSafe(&panel);
   }
 }
 
+/// It may have been brought back meanwhile.
+void PanelSet::deleteIfClosed(Panel& panel) {
+  if (std::count(closed_.begin(), closed_.end(), &panel) > 0)
+    WorkspaceApplication::deleteWhenSafe(&panel);
+}
+
 void PanelSet::forget(Panel& panel) {
   if (workspace_.currentParent() == panel.content()) workspace_.setCurrentParent(nullptr);
   std::erase(panels_, &panel);
-  makers_.erase(&panel);
-  panel.setObjectName({});  // a new panel may have the name from now on
+  panel.setKnown(false);
 }
 
 void PanelSet::clear() {
   for (Panel* panel : std::vector<Panel*>(panels_)) {
-    if (panel->makeContent) continue;
+    if (panel->isOwn()) continue;
     panel->hide();
     panel->settings().deleteLater = false;
     deletePanel(*panel);
@@ -221,7 +189,7 @@ bool PanelSet::hasRequiredPlugin(Panel& panel) {
 
 void PanelSet::load(Panel& panel) {
   if (panel.loaded) return;
-  if (panel.makeContent) {
+  if (panel.isOwn()) {
     panel.loaded = true;
     panel.content()->layout()->addWidget(panel.makeContent());
     return;
@@ -260,8 +228,7 @@ void PanelSet::runUiScript(Panel& panel) {
 
 bool PanelSet::isOf(const Panel& panel, const Plugin& plugin) const {
   if (panel.settings().requiredPlugin == plugin.name()) return true;
-  const auto makers = makers_.find(&panel);
-  return makers != makers_.end() && std::ranges::count(makers->second, plugin.name()) > 0;
+  return std::ranges::count(panel.makers, plugin.name()) > 0;
 }
 
 std::string PanelSet::reasonToKeep(const Plugin& plugin) {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QPointer>
-#include <map>
 #include <string>
 #include <vector>
 
+#include "standalone/host/engine/Observers.h"
 #include "standalone/host/engine/PluginLoader.h"
 #include "standalone/workspace/Panel.h"
 
@@ -24,17 +24,21 @@ class PanelSet final : public PluginHolder {
   PanelSet(const PanelSet&) = delete;
   PanelSet& operator=(const PanelSet&) = delete;
 
-  /// Makes a panel, and its content area the current parent. Null when the name is empty or taken.
+  /// Makes a panel, and its content area the current parent unless the panel is one of the host's
+  /// own. Null when the name is empty or taken.
   Panel* create(PanelSettings settings, Panel::ContentMaker makeContent = nullptr);
 
   /// Null for an unknown name.
   Panel* find(const std::string& name) const;
 
+  /// The same, and one that was closed and is not deleted yet: it is known again.
+  Panel* findOrRecall(const std::string& name);
+
   /// In the order in which they were made.
   const std::vector<Panel*>& panels() const { return panels_; }
 
   /// Shows the panel ahead of those that share its place, makes its content if that is still
-  /// missing, and makes its content area the current parent.
+  /// missing, and makes its content area the current parent unless it is one of the host's own.
   void restore(Panel& panel);
 
   /// Hides the panel; one that is not retained is unknown from then on, and deleted.
@@ -69,6 +73,8 @@ class PanelSet final : public PluginHolder {
   void loadWhenSeen(Panel& panel);
   void forget(Panel& panel);
   void deletePanel(Panel& panel);
+  void deleteIfClosed(Panel& panel);
+  void makeCurrent(const Panel& panel);
   static void deleteAll(std::vector<QPointer<Panel>> panels);
   bool hasRequiredPlugin(Panel& panel);
   void runUiScript(Panel& panel);
@@ -79,9 +85,7 @@ class PanelSet final : public PluginHolder {
   Workspace& workspace_;
   std::vector<Panel*> panels_;
   std::vector<QPointer<Panel>> closed_;  ///< unknown by now, and deleted soon
-
-  /// The plug-ins whose commands were at work when a panel was made.
-  std::map<const Panel*, std::vector<std::string>> makers_;
+  Observation lines_;
 };
 
 }  // namespace vesk

@@ -19,6 +19,10 @@ inline const QColor kResult(0x9c, 0xd3, 0xa4);
 inline const QColor kError(0xff, 0x94, 0x8a);
 inline const QColor kWarning(0xf0, 0xc4, 0x6c);
 
+inline const QColor kHandle(0x4a, 0x4e, 0x56);  ///< of a scroll bar
+inline const QColor kHandlePointedAt(0x5d, 0x62, 0x6b);
+inline const QColor kHandlePressed(0x70, 0x76, 0x80);
+
 /// Fonts at the interface scale in force.
 QFont textFont();
 QFont codeFont();

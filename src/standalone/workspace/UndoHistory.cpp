@@ -18,6 +18,7 @@ UndoHistory::UndoHistory(HostSession& session)
   setFocusProxy(view_);
   view_->setModel(&model_);
   view_->setUniformItemSizes(true);
+  view_->setVerticalScrollMode(QListView::ScrollPerPixel);
   view_->setFrameShape(QFrame::NoFrame);
   view_->setEditTriggers(QListView::NoEditTriggers);
   view_->setSelectionMode(QListView::SingleSelection);
@@ -35,9 +36,13 @@ UndoHistory::~UndoHistory() { delete view_; }
 
 void UndoHistory::refresh() {
   model_.refresh();
-  const QModelIndex current = model_.index(model_.currentRow());
-  view_->setCurrentIndex(current);
-  view_->scrollTo(current);
+  view_->setCurrentIndex(model_.index(model_.currentRow()));
+  view_->scrollTo(view_->currentIndex());
+}
+
+void UndoHistory::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  view_->scrollTo(view_->currentIndex());
 }
 
 /// One line a step, so that a journal tells the same; up to the first that fails.

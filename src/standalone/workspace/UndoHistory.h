@@ -19,6 +19,9 @@ class UndoHistory final : public QWidget {
   explicit UndoHistory(HostSession& session);
   ~UndoHistory() override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void refresh();
   void goTo(int row);

@@ -56,4 +56,8 @@ void WorkspaceApplication::deleteWhenSafe(QDockWidget* panel) {
   }
 }
 
+void WorkspaceApplication::keep(const QDockWidget& panel) {
+  if (WorkspaceApplication* self = application()) std::erase(self->waiting_, &panel);
+}
+
 }  // namespace vesk

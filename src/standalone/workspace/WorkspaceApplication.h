@@ -23,6 +23,9 @@ class WorkspaceApplication : public QApplication {
   /// Deletes the panel: at once, or when it has handled its events.
   static void deleteWhenSafe(QDockWidget* panel);
 
+  /// Takes back that the panel is deleted when it has handled its events.
+  static void keep(const QDockWidget& panel);
+
  private:
   /// One call of `notify`. A window stands for the panel whose frame it is.
   struct Delivery {

@@ -1,10 +1,14 @@
 #include "standalone/workspace/WorkspaceStyle.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QIconEngine>
+#include <QMainWindow>
 #include <QPainter>
 #include <QStyleOption>
+#include <algorithm>
 
+#include "standalone/workspace/ScrollBar.h"
 #include "standalone/workspace/Theme.h"
 
 namespace vesk {
@@ -73,6 +77,16 @@ bool isScaled(QStyle::PixelMetric metric) {
   }
 }
 
+/// The tab of a panel that shares its place says its name already.
+bool isNamedByATab(const QWidget* widget) {
+  auto* panel = qobject_cast<QDockWidget*>(const_cast<QWidget*>(widget));
+  const auto* window = panel ? qobject_cast<const QMainWindow*>(panel->parentWidget()) : nullptr;
+  if (!window || panel->isFloating()) return false;
+  return std::ranges::any_of(window->tabifiedDockWidgets(panel), [](const QDockWidget* other) {
+    return !other->isFloating() && !other->isHidden();
+  });
+}
+
 void drawPanelTitle(const QStyleOptionDockWidget& option, QPainter& painter, const QRect& text) {
   painter.save();
   painter.fillRect(option.rect, theme::kTitle);
@@ -118,6 +132,7 @@ int WorkspaceStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                                 const QWidget* widget) const {
   if (metric == PM_DockWidgetTitleMargin) return theme::scaled(4);
   if (metric == PM_DockWidgetSeparatorExtent) return theme::scaled(5);
+  if (metric == PM_ScrollBarExtent) return theme::scaled(12);
   if (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin) return theme::scaled(6);
   const int size = QProxyStyle::pixelMetric(metric, option, widget);
   return size > 0 && isScaled(metric) ? theme::scaled(size) : size;
@@ -131,7 +146,9 @@ void WorkspaceStyle::drawControl(ControlElement element, const QStyleOption* opt
   if (element == CE_HeaderSection) {
     drawHeaderSection(*option, *painter);
   } else if (title) {
-    drawPanelTitle(*title, *painter, subElementRect(SE_DockWidgetTitleBarText, option, widget));
+    QStyleOptionDockWidget shown(*title);
+    if (isNamedByATab(widget)) shown.title.clear();
+    drawPanelTitle(shown, *painter, subElementRect(SE_DockWidgetTitleBarText, option, widget));
   } else {
     QProxyStyle::drawControl(element, option, painter, widget);
   }
@@ -141,6 +158,25 @@ void WorkspaceStyle::drawPrimitive(PrimitiveElement element, const QStyleOption*
                                    QPainter* painter, const QWidget* widget) const {
   if (element == PE_IndicatorDockWidgetResizeHandle) return;  // the gap between panels says enough
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void WorkspaceStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                        QPainter* painter, const QWidget* widget) const {
+  const auto* bar =
+      control == CC_ScrollBar ? qstyleoption_cast<const QStyleOptionSlider*>(option) : nullptr;
+  if (bar) {
+    drawScrollBar(*bar, *painter);
+  } else {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
+}
+
+QRect WorkspaceStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                     SubControl part, const QWidget* widget) const {
+  const auto* bar =
+      control == CC_ScrollBar ? qstyleoption_cast<const QStyleOptionSlider*>(option) : nullptr;
+  return bar ? scrollBarPart(*bar, part)
+             : QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 QSize WorkspaceStyle::sizeFromContents(ContentsType type, const QStyleOption* option,

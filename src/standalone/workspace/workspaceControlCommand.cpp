@@ -55,7 +55,8 @@ class WorkspaceControlCommand : public BuiltinCommand {
 
  private:
   KStatus run(const KArgDatabase& arguments) override {
-    const unsigned char mode = arguments.isQuery() ? kQuery : arguments.isEdit() ? kEdit : kCreate;
+    const unsigned char mode = modeOf(arguments);
+    if (mode == kCreate) leaveNoParent();
     for (const ModeRow& row : kRows) {
       if (arguments.isFlagSet(row.flag.shortName) && (row.modes & mode) == 0) {
         return fail(std::string(row.flag.longName) + " " + whereItBelongs(row.modes));
@@ -63,16 +64,30 @@ class WorkspaceControlCommand : public BuiltinCommand {
     }
     if (!MainWindow::current()) return fail("there is no window; start vesk with --gui");
     if (arguments.isFlagSet("-ls")) return list(arguments);
-    // When no panel comes of it, nothing is built into another one.
-    if (mode == kCreate) Workspace::current()->setCurrentParent(nullptr);
     const std::vector<std::string> names = positionalTexts(arguments);
     if (names.empty()) return fail("the name of the panel is missing");
     if (names[0].empty()) return fail("the name of the panel is empty");
     if (mode == kCreate) return create(arguments, names[0]);
     if (arguments.isFlagSet("-ex")) return tellWhetherItExists(arguments, names[0]);
-    Panel* panel = panels().find(names[0]);
+    const bool restores = arguments.isFlagSet("-rs");
+    Panel* panel = restores ? panels().findOrRecall(names[0]) : panels().find(names[0]);
     if (!panel) return fail("no panel is named " + vesk::quoted(names[0]));
     return mode == kQuery ? query(arguments, *panel) : edit(arguments, *panel);
+  }
+
+  void misfit(const KArgDatabase& arguments) override {
+    if (modeOf(arguments) == kCreate) leaveNoParent();
+  }
+
+  /// When no panel comes of a line, nothing is built into another one.
+  static void leaveNoParent() {
+    if (Workspace* workspace = Workspace::current()) workspace->setCurrentParent(nullptr);
+  }
+
+  /// A list is asked for also without query mode.
+  static unsigned char modeOf(const KArgDatabase& arguments) {
+    if (arguments.isEdit()) return kEdit;
+    return arguments.isQuery() || arguments.isFlagSet("-ls") ? kQuery : kCreate;
   }
 
   static PanelSet& panels() { return MainWindow::current()->panels(); }
@@ -128,6 +143,9 @@ class WorkspaceControlCommand : public BuiltinCommand {
     const bool closes = arguments.isFlagSet("-cl");
     if (flagsGiven(arguments, kFlags) == 0) return fail("say what to change, with its flags");
     if (closes && flagsGiven(arguments, kFlags) > 1) return fail("-close goes alone");
+    if (panel.isOwn() && arguments.isFlagSet("-ui")) {
+      return fail("no lines make the content of " + vesk::quoted(panel.name()));
+    }
     if (arguments.isFlagSet("-l")) panel.setLabel(flagText(arguments, "-l"));
     if (arguments.isFlagSet("-fl")) panels().setFloating(panel, flagBool(arguments, "-fl"));
     if (arguments.isFlagSet("-v")) panels().setVisible(panel, flagBool(arguments, "-v"));

@@ -31,6 +31,31 @@ TEST(Gui, WithoutADisplayTheProgramSaysSoAndStaysAShell) {
   EXPECT_EQ(run.status, 0);
 }
 
+const std::string kUnreachable = "vesk: the display cannot be reached, so there is no window\n";
+
+TEST(Gui, WithADisplayThatCannotBeReachedTheProgramSaysSoAndStaysAShell) {
+  const std::map<std::string, std::string> displays[] = {
+      {{"QT_QPA_PLATFORM", "xcb"}, {"DISPLAY", ":4242"}},
+      {{"QT_QPA_PLATFORM", ""}, {"DISPLAY", ":4242"}, {"WAYLAND_DISPLAY", "none"}},
+      {{"QT_QPA_PLATFORM", "nonsense"}},
+  };
+  for (const auto& variables : displays) {
+    for (const char* batch : {"--keep-going", "--batch"}) {
+      const ProgramRun run = runVesk(
+          {"--gui", batch, "-c", "about -batch", "-c", "workspaceControl -ls", "-c", "echo on"},
+          {.variables = variables});
+      EXPECT_EQ(run.out.substr(0, 5), "true\n");
+      EXPECT_EQ(run.err.substr(0, kUnreachable.size()), kUnreachable);
+      EXPECT_THAT(run.err, HasSubstr("there is no window; start vesk with --gui\n"));
+      EXPECT_EQ(run.status, 1) << "a line failed";
+    }
+    const ProgramRun run = runVesk({"--gui"}, {.input = "echo on\n", .variables = variables});
+    EXPECT_EQ(run.out, "on\n");
+    EXPECT_EQ(run.err, kUnreachable);
+    EXPECT_EQ(run.status, 0);
+  }
+}
+
 TEST(Gui, LinesRunWithTheWindowThereAndInBatchTheProgramThenEnds) {
   const ProgramRun run =
       runWindow({"--batch", "-c", "workspaceControl -q -exists outliner", "-c", "about -batch"});

@@ -53,6 +53,44 @@ TEST(MainWindow, FollowsTheScaleThatTheUserChooses) {
   EXPECT_EQ(w.window().font().pixelSize(), font);
 }
 
+TEST(MainWindow, ColumnsKeepTheirWidthWhenTheWindowGetsAnother) {
+  Window w;
+  w.run("workspaceControl -initialWidth 300 side");
+  w.run("workspaceControl -initialWidth 900 -initialHeight 400 middle");
+  const auto width = [&](const char* name) { return w.panels().find(name)->width(); };
+  const int outliner = width("outliner");
+  const int side = width("side");
+  const int middle = width("middle");
+  for (const int window : {1920, 1400, 1281, 2560}) {
+    w.window().resize(window, 900);
+    settle();
+    EXPECT_EQ(width("outliner"), outliner) << window;
+    EXPECT_EQ(width("undoHistory"), outliner) << window;
+    EXPECT_EQ(width("side"), side) << window;
+    EXPECT_EQ(width("middle"), middle + window - 1280) << window;
+    EXPECT_EQ(width("commandPanel"), width("middle")) << window;
+  }
+}
+
+TEST(MainWindow, ColumnsFollowTheScaleAndTheRestIsForTheOthers) {
+  constexpr int kGaps = 8;  // between the panels, which are scaled too
+  Window w;
+  w.window().resize(1920, 1080);
+  w.run("workspaceControl -initialWidth 300 side");
+  const auto width = [&](const char* name) { return w.panels().find(name)->width(); };
+  const int outliner = width("outliner");
+  const int side = width("side");
+  w.run("optionVar -intValue interfaceScale 150");
+  EXPECT_NEAR(width("outliner"), outliner * 3 / 2, kGaps);
+  EXPECT_EQ(width("undoHistory"), width("outliner"));
+  EXPECT_NEAR(width("side"), side * 3 / 2, kGaps);
+  EXPECT_EQ(w.window().width(), 1920);
+  EXPECT_NEAR(width("outliner") + width("commandPanel") + width("side"), 1920, 30);
+  w.run("optionVar -intValue interfaceScale 100");
+  EXPECT_NEAR(width("outliner"), outliner, kGaps);
+  EXPECT_NEAR(width("side"), side, kGaps);
+}
+
 TEST(MainWindow, TheScaleOfARunGoesAheadUntilTheUserChoosesAnother) {
   Window w;
   w.run("optionVar -intValue interfaceScale 125");

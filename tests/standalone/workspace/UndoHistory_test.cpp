@@ -88,6 +88,17 @@ TEST_F(UndoHistories, StopAtAStepThatCannotBeTaken) {
   w_.run("undoInfo -closeChunk");
 }
 
+TEST_F(UndoHistories, KeepTheCurrentStepInViewWhenThereIsLessRoom) {
+  for (int i = 0; i < 100; ++i) w_.host().run("createNode group");
+  for (int i = 0; i < 60; ++i) w_.host().run("undo");
+  settle();
+  for (const int height : {900, 500, 1400}) {
+    w_.window().resize(1280, height);
+    settle();
+    EXPECT_TRUE(view().viewport()->rect().contains(view().visualRect(view().currentIndex())));
+  }
+}
+
 TEST_F(UndoHistories, ForgetWithTheQueue) {
   w_.run("undoInfo -length 1");
   EXPECT_THAT(rows(), ElementsAre("Beginning", "createNode group -name c"));

@@ -45,10 +45,10 @@ TEST_F(Panels, AreThoseOfTheHostToBeginWith) {
 
 TEST_F(Panels, AreMadeWithALabelAndBecomeTheCurrentParent) {
   EXPECT_EQ(run("-label \"A label\" p"), "\"p\"");
+  EXPECT_EQ(KQtUtil::getCurrentParent(), w_.panels().find("p")->content());
   EXPECT_EQ(run("-q -exists p"), "true");
   EXPECT_EQ(run("-q -visible p"), "true");
   EXPECT_EQ(run("-q -label p"), "\"A label\"");
-  EXPECT_EQ(KQtUtil::getCurrentParent(), w_.panels().find("p")->content());
 }
 
 TEST_F(Panels, ThatAreRefusedLeaveNoCurrentParent) {

@@ -24,7 +24,9 @@ KSyntax makeSyntax(const CommandRecord& record) {
 KStatus BuiltinCommand::doIt(const KArgList& arguments) {
   KStatus status;
   const KArgDatabase database(syntax(), arguments, &status);
-  return status ? run(database) : status;
+  if (status) return run(database);
+  misfit(database);
+  return status;
 }
 
 std::size_t BuiltinCommand::flagsGiven(const KArgDatabase& arguments,

@@ -42,6 +42,9 @@ class BuiltinCommand : public KPxCommand {
  protected:
   virtual KStatus run(const KArgDatabase& arguments) = 0;
 
+  /// Called in its place when the arguments do not fit; what fits of them can be read.
+  virtual void misfit(const KArgDatabase& /*arguments*/) {}
+
   static HostSession& session() { return *HostSession::current(); }
 
   /// How many flags of a table were given.

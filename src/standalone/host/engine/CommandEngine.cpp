@@ -59,6 +59,7 @@ KStatus CommandEngine::run(std::string_view text, ResultValue& result, RunOption
   KStatus status = read.error ? refuse("syntax error: " + read.error->text()) : KStatus();
   UndoQueue& undoQueue = session_.undoQueue();
   const bool ownSteps = outermost || options.topLevel;
+  lineBegan_.tell({outermost, !read.error});
   if (options.topLevel && !outermost) undoQueue.endStatement(callingCommand());
   for (Statement& statement : read.statements) {
     status = runStatement(statement, result, options);

@@ -15,6 +15,12 @@ class HostSession;
 class Plugin;
 struct CommandEntry;
 
+/// A line ahead of what it does.
+struct BegunLine {
+  bool outermost;  ///< no command runs it
+  bool readable;   ///< else nothing of it will run
+};
+
 /// A line that no other command ran, when it is done.
 struct FinishedLine {
   std::string_view text;
@@ -32,6 +38,9 @@ class CommandEngine {
   /// Runs a text of the command language. It is read whole before anything of it runs. Stops at the
   /// first statement that fails and returns its status; `result` is that of the last one that ran.
   KStatus run(std::string_view text, ResultValue& result, RunOptions options = {});
+
+  /// Who hears of each line, those of commands among them, when it has been read.
+  Observers<BegunLine>& lineBegan() { return lineBegan_; }
 
   /// Who hears of each line that no other command ran.
   Observers<FinishedLine>& lineEnded() { return lineEnded_; }
@@ -77,6 +86,7 @@ class CommandEngine {
 
   HostSession& session_;
   std::vector<Frame> frames_;
+  Observers<BegunLine> lineBegan_;
   Observers<FinishedLine> lineEnded_;
 };
 

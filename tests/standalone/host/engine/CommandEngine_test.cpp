@@ -46,6 +46,23 @@ TEST(CommandEngine, GivesTheStatusOfTheCommandThatFailed) {
   EXPECT_EQ(host.status("bad"), StatusBadArgument);
 }
 
+TEST(CommandEngine, TellsOfEachLineThatItBegins) {
+  ProbeHost host;
+  addProbe(host, "outer", {.doIt = [](KPxCommand&, const KArgList&) {
+             return KGlobal::executeCommand("edit \"a", false, false);
+           }});
+  Texts begun;
+  const auto observation =
+      host.session().engine().lineBegan().add([&](const vesk::BegunLine& line) {
+        begun.push_back(std::string(line.outermost ? "outermost" : "inner") +
+                        (line.readable ? "" : ", cannot be read"));
+      });
+  host.run("edit a; edit b");
+  EXPECT_EQ(host.status("outer"), StatusBadArgument);
+  host.takeMessages();
+  EXPECT_THAT(begun, ElementsAre("outermost", "outermost", "inner, cannot be read"));
+}
+
 TEST(CommandEngine, AnUnknownCommandIsABadArgument) {
   ProbeHost host;
   EXPECT_EQ(host.status("no\u00e9 a"), StatusBadArgument);
