@@ -1,5 +1,6 @@
 #include "standalone/widgets/parameters/FieldStyle.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -117,7 +118,8 @@ int FieldStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                             const QWidget* widget) const {
   const bool isBox = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
   if (isBox && widget) return widget->fontMetrics().height() * 7 / 8;
-  return QProxyStyle::pixelMetric(metric, option, widget);
+  const int size = QApplication::style()->pixelMetric(metric, option, widget);
+  return metric == PM_FocusFrameHMargin ? size * 3 / 4 : size;
 }
 
 }  // namespace orvuilib

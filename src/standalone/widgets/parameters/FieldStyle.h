@@ -18,7 +18,8 @@ class ORVUI_EXPORT FieldStyle final : public QProxyStyle {
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
 
-  /// Boxes are as large as the text beside them.
+  /// Boxes are as large as the text beside them, and the cells of tables a little narrower; all
+  /// else is as in the program.
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override;
 };

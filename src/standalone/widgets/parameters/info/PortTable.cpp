@@ -61,12 +61,13 @@ void PortTable::refresh() {
 void PortTable::fitColumns() {
   QHeaderView& header = *horizontalHeader();
   const int room = viewport()->width();
-  const int gap = style::gap(*this);
   const auto fit = [&](int column, int most) {
     const int wanted = std::max(sizeHintForColumn(column), header.sectionSizeHint(column));
-    header.resizeSection(column, std::min(wanted + gap, most));
+    header.resizeSection(column, std::min(wanted, most));
   };
-  header.resizeSection(PortsModel::kWatch, fontMetrics().height() + 2 * gap);
+  const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+  const int box = style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this);
+  header.resizeSection(PortsModel::kWatch, box + 2 * margin);
   fit(PortsModel::kName, room * 32 / 100);
   fit(PortsModel::kType, room * 24 / 100);
 }

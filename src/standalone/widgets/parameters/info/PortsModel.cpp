@@ -123,7 +123,8 @@ QString PortsModel::text(PortObject& port, int column) const {
 }
 
 QString PortsModel::tip(const PortObject& port) const {
-  QStringList lines{(port.isInput() ? "Input " : "Output ") + toText(port.name())};
+  QStringList lines{(port.isInput() ? "Input " : "Output ") + toText(port.name()) + "  (" +
+                    toText(port.valueType().name) + ")"};
   const auto* known = port.description();
   if (known && !known->description.empty()) lines.append(toText(known->description));
   if (!port.metadata().empty()) lines.append(toText(orvlib::writeProperties(port.metadata())));
