@@ -49,8 +49,9 @@ class ORV_EXPORT ModifyCompoundPortCommand {
   bool setPortMetaDataValue(const char* name, const char* key, const char* value);
   bool deletePort(const char* name);
 
-  /// `interactive` is for a value on its way, as while a slider moves: the command keeps nothing to
-  /// undo it by. False also for values that do not fit the port's type.
+  /// `interactive` is for a value on its way: nothing is kept to undo it by, and no text gives the
+  /// port its default back, unless it is an array. False for values that do not fit the port's
+  /// type.
   bool setPortValues(const char* name, const StringArray& values, bool interactive);
   bool resetPortValues(const char* name);
 

@@ -135,8 +135,8 @@ class ORVUI_EXPORT CommandHook {
   virtual void setPortMetaDataValue(int targetKind, const PortHandle& port, const QString& key,
                                     const QString& value) = 0;
 
-  /// `values` has one text a component. `direct` is for a value on its way, as while a slider
-  /// moves: nothing is kept to undo it by.
+  /// `values` has one text a component. `direct` is for a value on its way: nothing is kept to undo
+  /// it by, and no text at all gives the port its default back, unless it is an array.
   virtual void setPortDefaultValues(const PortHandle& port, const QList<QString>& values,
                                     bool direct) = 0;
   virtual void resetPortDefaultValues(const PortHandle& port) = 0;

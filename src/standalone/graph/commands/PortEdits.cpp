@@ -76,7 +76,11 @@ bool PortEdits::Run::run(PortObject& port, const NewValue& what) {
   return true;
 }
 
-bool PortEdits::Run::run(PortObject& port, const Reset&) { return runResetValue(edits, port); }
+bool PortEdits::Run::run(PortObject& port, const Reset& what) {
+  if (!runResetValue(edits, port)) return false;
+  if (what.interactive) passing.push_back(edits.size() - 1);
+  return true;
+}
 
 bool PortEdits::Run::run(PortObject& port, const NewFlags& what) {
   const std::uint32_t flags = what.on ? port.flags() | what.bits : port.flags() & ~what.bits;

@@ -30,7 +30,8 @@ class PortEdits {
   bool setFlags(NodeObject* node, const char* name, std::uint32_t bits, bool on);
   bool setFlags(PortObject* port, std::uint32_t bits, bool on);
 
-  /// The value of an `interactive` request stays when the rest is undone.
+  /// The value of an `interactive` request stays when the rest is undone. Without any text such a
+  /// request gives the port its default back, unless it is an array, which may have no elements.
   bool setValues(NodeObject* node, const char* name, const ORV_v1::StringArray& values,
                  bool interactive);
   bool resetValues(NodeObject* node, const char* name);
@@ -75,7 +76,9 @@ class PortEdits {
     Value value;
     bool interactive;
   };
-  struct Reset {};
+  struct Reset {
+    bool interactive;
+  };
   using What = std::variant<NewValue, Reset, NewFlags, NewMetadata, Rename, Move, Show, Retype,
                             Remove, std::unique_ptr<Make>>;
   struct Request {

@@ -157,13 +157,15 @@ bool PortEdits::setValues(NodeObject* node, const char* name, const ORV_v1::Stri
                           bool interactive) {
   PortPlan::View view;
   if (!find(node, name, view) || !view.settable) return false;
+  const bool isArray = GraphAccess::typeOf(*view.type)->isArray();
+  if (interactive && values.size() == 0 && !isArray) return record(view, Reset{true});
   std::optional<Value> value = valueOf(view.type, values);
   return value && record(view, NewValue{std::move(*value), interactive});
 }
 
 bool PortEdits::resetValues(NodeObject* node, const char* name) {
   PortPlan::View view;
-  return find(node, name, view) && view.settable && record(view, Reset());
+  return find(node, name, view) && view.settable && record(view, Reset{false});
 }
 
 }  // namespace orvlib

@@ -71,6 +71,8 @@ void ColorManagementHandler::saveUserPrefs() const {
 
 void ColorManagementHandler::registerCMHandler(ColorManagementHandler* handler) {
   ColourRegistry::instance().setHandler(handler);
+  // Preferences that are yet to come are restored when they do.
+  if (handler && !Preferences::instance().all().isEmpty()) handler->restoreUserPrefs();
 }
 
 void setEyeDropperHandler(EyeDropperHandler handler) {

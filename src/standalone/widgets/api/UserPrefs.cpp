@@ -1,9 +1,11 @@
 #include "platform/orvUI_1_0/UserPrefs.h"
 
+#include "standalone/widgets/colour/ColourRegistry.h"
 #include "standalone/widgets/preferences/Preferences.h"
 
 namespace orvUI_v1 {
 
+using orvuilib::ColourRegistry;
 using orvuilib::Preferences;
 
 QJsonDocument getUserPrefs(const QJsonDocument& defaults) {
@@ -17,7 +19,9 @@ QJsonDocument getUserPrefs(const QJsonDocument& defaults) {
 }
 
 void setUserPrefs(const QJsonDocument& preferences) {
-  if (preferences.isObject()) Preferences::instance().replaceAll(preferences.object());
+  if (!preferences.isObject()) return;
+  Preferences::instance().replaceAll(preferences.object());
+  if (auto* colours = ColourRegistry::instance().handler()) colours->restoreUserPrefs();
 }
 
 void setNumberOfMouseButtons(int count) { Preferences::instance().setMouseButtons(count); }

@@ -7,8 +7,6 @@
 #include "platform/ORV_1_0/AnnotationList.h"
 #include "platform/ORV_1_0/Host.h"
 #include "standalone/graph/model/ContainerObject.h"
-#include "standalone/widgets/colour/ColourRegistry.h"
-#include "standalone/widgets/hooks/HookRegistry.h"
 #include "standalone/widgets/look/Scale.h"
 #include "standalone/widgets/preferences/Preferences.h"
 #include "standalone/widgets/selection/SelectionModel.h"
@@ -16,21 +14,6 @@
 namespace orvuilib {
 
 using orvlib::NodeObject;
-using orvUI_v1::AppServicesHook;
-
-namespace {
-
-/// The preferences are what the program kept, from the first editor on.
-void loadPreferencesOnce() {
-  static bool loaded = false;
-  AppServicesHook* hook = HookRegistry::appServicesHook();
-  if (loaded || !hook) return;
-  loaded = true;
-  hook->syncUserPrefs(AppServicesHook::kLoadPrefs);
-  if (auto* colours = ColourRegistry::instance().handler()) colours->restoreUserPrefs();
-}
-
-}  // namespace
 
 CompoundEditorWidget::CompoundEditorWidget(QWidget* parent)
     : CompoundEditor(parent),
@@ -44,7 +27,6 @@ CompoundEditorWidget::CompoundEditorWidget(QWidget* parent)
       bench_(new Workbench{scene_, *canvas_, session_, preferences_,
                            [this](const edits::NodePlace& place) { openNodeMenu(place); }}),
       interaction_(new Interaction(*bench_, *this)) {
-  loadPreferencesOnce();
   readPreferences();
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

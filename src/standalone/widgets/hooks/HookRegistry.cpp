@@ -13,6 +13,7 @@ struct State {
   /// Under null the hook of all runtimes. There are few runtimes.
   std::map<const ORV_v1::Runtime*, CommandHook*> commandHooks;
   AppServicesHook* appServicesHook = nullptr;
+  unsigned int servicesRound = 0;
 };
 
 /// Never destroyed: a module's hook may go after everything else of the program.
@@ -31,7 +32,10 @@ void HookRegistry::install(CommandHook* hook, ORV_v1::Runtime* runtime) {
   }
 }
 
-void HookRegistry::install(AppServicesHook* hook) { state().appServicesHook = hook; }
+void HookRegistry::install(AppServicesHook* hook) {
+  state().appServicesHook = hook;
+  if (hook) ++state().servicesRound;
+}
 
 void HookRegistry::forget(const CommandHook& hook) {
   std::erase_if(state().commandHooks, [&hook](const auto& entry) { return entry.second == &hook; });
@@ -49,5 +53,7 @@ CommandHook* HookRegistry::commandHook(const ORV_v1::Runtime* runtime) {
 }
 
 AppServicesHook* HookRegistry::appServicesHook() { return state().appServicesHook; }
+
+unsigned int HookRegistry::servicesRound() { return state().servicesRound; }
 
 }  // namespace orvuilib

@@ -19,6 +19,9 @@ class ORVUI_EXPORT HookRegistry {
 
   /// Null when there is none.
   static orvUI_v1::AppServicesHook* appServicesHook();
+
+  /// How many services hooks have been installed so far: another number, perhaps another hook.
+  static unsigned int servicesRound();
 };
 
 }  // namespace orvuilib

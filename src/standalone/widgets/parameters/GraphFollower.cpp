@@ -12,9 +12,12 @@ using orvlib::NodeRef;
 
 namespace {
 
-/// What matters wherever it happens: a path, a level that goes, a lock, the name of a source.
-constexpr unsigned char kEverywhere =
-    orvlib::kContentChange | orvlib::kIdentityChange | orvlib::kMetadataChange;
+/// What matters wherever it happens: a path, a level that goes, the name of a source, and a lock.
+unsigned char bitsOfOther(const NodeChange& change) {
+  constexpr unsigned char kEverywhere = orvlib::kContentChange | orvlib::kIdentityChange;
+  const unsigned char lock = change.node->compound() ? orvlib::kMetadataChange : 0;
+  return change.bits & (kEverywhere | lock);
+}
 
 }  // namespace
 
@@ -58,7 +61,7 @@ void GraphFollower::graphChanged(ContainerObject&, std::span<const NodeChange> c
   unsigned char bits = 0;
   for (const NodeChange& change : changes) {
     const bool isFollowed = nodes_.contains(change.node.get());
-    bits |= isFollowed ? change.bits : change.bits & kEverywhere;
+    bits |= isFollowed ? change.bits : bitsOfOther(change);
   }
   if (bits != 0 || all_) note(bits);
 }

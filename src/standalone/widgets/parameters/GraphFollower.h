@@ -15,9 +15,9 @@ namespace orvuilib {
 /// all that happened until then.
 class ORVUI_EXPORT GraphFollower final : private orvlib::ChangeListener {
  public:
-  /// `changed` gets the bits of all that changed (see `ChangeBits`): of names, content and metadata
-  /// anywhere in the graphs, of all else only when it is of the nodes followed. It may follow other
-  /// nodes.
+  /// `changed` gets the bits of all that changed (see `ChangeBits`): of names and content anywhere
+  /// in the graphs, of metadata of compounds, of all else only when it is of the nodes followed. It
+  /// may follow other nodes.
   explicit GraphFollower(std::function<void(unsigned char)> changed);
   GraphFollower(const GraphFollower&) = delete;
   GraphFollower& operator=(const GraphFollower&) = delete;

@@ -1,13 +1,15 @@
 #include "standalone/widgets/parameters/GroupHeader.h"
 
+#include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "standalone/widgets/parameters/RowStyle.h"
 
 namespace orvuilib {
 
 GroupHeader::GroupHeader(QWidget* parent) : QAbstractButton(parent) {
-  setFocusPolicy(Qt::NoFocus);
+  setFocusPolicy(Qt::TabFocus);
   setCursor(Qt::PointingHandCursor);
 }
 
@@ -20,6 +22,15 @@ void GroupHeader::showGroup(const QString& title, bool open) {
   setToolTip(title);
   open_ = open;
   update();
+}
+
+/// The Space key is the button's own.
+void GroupHeader::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    click();
+  } else {
+    QAbstractButton::keyPressEvent(event);
+  }
 }
 
 void GroupHeader::paintEvent(QPaintEvent*) {
@@ -37,6 +48,9 @@ void GroupHeader::paintEvent(QPaintEvent*) {
   const QRect place = bar.adjusted(5 * gap, 0, -gap, 0);
   painter.drawText(place, Qt::AlignVCenter,
                    QFontMetrics(bold).elidedText(text(), Qt::ElideRight, place.width()));
+  if (!hasFocus()) return;
+  painter.setPen(QPen(palette().color(QPalette::Highlight), std::max(2, gap / 2)));
+  painter.drawRect(bar.adjusted(1, 1, -1, -1));
 }
 
 }  // namespace orvuilib

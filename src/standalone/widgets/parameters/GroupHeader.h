@@ -6,7 +6,7 @@
 
 namespace orvuilib {
 
-/// The heading of a group, which a click opens and closes.
+/// The heading of a group, which a click, Space or Return opens and closes.
 class ORVUI_EXPORT GroupHeader final : public QAbstractButton {
  public:
   explicit GroupHeader(QWidget* parent);
@@ -16,6 +16,7 @@ class ORVUI_EXPORT GroupHeader final : public QAbstractButton {
   static int heightOf(const QWidget& styled);
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

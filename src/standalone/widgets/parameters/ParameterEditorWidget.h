@@ -8,6 +8,7 @@
 namespace orvuilib {
 
 class InfoPanel;
+class Notice;
 class ParameterPanel;
 
 /// The one implementation of `ParameterEditor`: a panel for each mode, of which it makes those that
@@ -32,9 +33,11 @@ class ORVUI_EXPORT ParameterEditorWidget final : public orvUI_v1::ParameterEdito
   void makePanel();
   void showSelection();
   void follow(unsigned char bits);
+  bool giveUpLive();
   std::vector<orvlib::NodeRef> nodesInGraphs() const;
 
   orvUI_v1::ParameterEditorMode mode_ = orvUI_v1::ParameterEditorMode::kParameters;
+  Notice* notice_;
   ParameterPanel* parameters_ = nullptr;
   InfoPanel* info_ = nullptr;
 

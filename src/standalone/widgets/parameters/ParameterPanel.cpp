@@ -29,7 +29,7 @@ ParameterPanel::ParameterPanel(QWidget* parent)
     : QWidget(parent),
       search_(new QLineEdit(this)),
       blank_(makeNote("Nothing is selected", this)),
-      readOnly_(makeNote("Read-only: nothing here can be edited", this)),
+      readOnly_(makeNote({}, this)),
       rows_(new RowView(this)) {
   const int gap = style::gap(*this);
   auto* layout = new QVBoxLayout(this);
@@ -42,7 +42,10 @@ ParameterPanel::ParameterPanel(QWidget* parent)
   layout->addWidget(blank_, 1);
   layout->addWidget(rows_, 1);
   layout->addWidget(readOnly_);
+  readOnly_->setObjectName("readOnly");
   search_->setPlaceholderText("Search");
+  search_->setToolTip("Name, value or type; name:, type: and value: narrow the search");
+  search_->setTextMargins(gap, 0, gap, 0);
   search_->setObjectName("search");
   search_->setClearButtonEnabled(true);
   search_->installEventFilter(this);
@@ -52,6 +55,9 @@ ParameterPanel::ParameterPanel(QWidget* parent)
   });
   rows_->edited = [this] {
     if (edited) edited();
+  };
+  rows_->refused = [this](const QString& reason) {
+    if (refused) refused(reason);
   };
   showNotes();
 }
@@ -80,12 +86,25 @@ void ParameterPanel::makeRowsAnew() {
 void ParameterPanel::showNotes() {
   const bool isSearching = !search_->text().trimmed().isEmpty();
   blank_->setText(nodes_.empty() ? "Nothing is selected"
-                  : isSearching  ? "No parameter of that name"
+                  : isSearching  ? "No such parameter"
                                  : "No parameters");
   blank_->setVisible(rows_->isEmpty());
   rows_->setVisible(!rows_->isEmpty());
   search_->setVisible(!nodes_.empty());
-  readOnly_->setVisible(!nodes_.empty() && !hookOf(nodes_.front()->core()));
+  const QString reason = readOnlyText();
+  readOnly_->setText(reason);
+  readOnly_->setVisible(!reason.isEmpty());
+}
+
+QString ParameterPanel::readOnlyText() const {
+  QString first;
+  bool all = true;
+  for (const NodeRef& node : nodes_) {
+    const QString reason = readOnlyReason(*node);
+    all = all && !reason.isEmpty();
+    if (first.isEmpty()) first = reason;
+  }
+  return all || first.isEmpty() ? first : "In part " + first.toLower().left(1) + first.mid(1);
 }
 
 /// Escape empties the field first, before it means anything else.

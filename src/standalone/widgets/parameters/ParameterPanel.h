@@ -30,12 +30,16 @@ class ORVUI_EXPORT ParameterPanel final : public QWidget {
   /// An edit has been made, which the graph may have refused.
   std::function<void()> edited;
 
+  /// Called with the reason why what a user did had no effect.
+  std::function<void(const QString&)> refused;
+
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   void makeRowsAnew();
   void showNotes();
+  QString readOnlyText() const;
 
   std::vector<orvlib::NodeRef> nodes_;
   std::size_t fingerprint_ = 0;

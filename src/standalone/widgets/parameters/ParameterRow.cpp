@@ -1,10 +1,12 @@
 #include "standalone/widgets/parameters/ParameterRow.h"
 
 #include <QHash>
+#include <QSet>
 #include <algorithm>
 
 #include "standalone/graph/model/CompoundObject.h"
 #include "standalone/widgets/parameters/Choices.h"
+#include "standalone/widgets/parameters/NumberFormat.h"
 #include "standalone/widgets/parameters/RowState.h"
 
 namespace orvuilib {
@@ -18,13 +20,6 @@ using orvlib::ScalarKind;
 using orvlib::ValueType;
 
 namespace {
-
-bool isColour(const ValueType& type) {
-  const auto& names = type.components;
-  if (type.scalar != ScalarKind::Float || names.size() < 3 || names.size() > 4) return false;
-  return names[0] == "r" && names[1] == "g" && names[2] == "b" &&
-         (names.size() < 4 || names[3] == "a");
-}
 
 /// Whether the components are named m00, m01 and so on, in a square.
 bool isMatrix(const ValueType& type) {
@@ -126,17 +121,24 @@ RowGroup takeCommon(std::vector<TypeGroup>& groups, std::size_t nodeCount) {
     }
     if (all.ports.size() == nodeCount) common.rows.push_back(std::move(all));
   }
+  QSet<QString> taken;
+  for (const ParameterRow& row : common.rows) taken.insert(portKey(row.first()));
   for (TypeGroup& group : groups) {
-    std::erase_if(group.group.rows, [&common](const ParameterRow& row) {
-      const QString key = portKey(row.first());
-      return std::ranges::any_of(common.rows,
-                                 [&](const auto& all) { return all.key == "*/" + key; });
+    std::erase_if(group.group.rows, [&taken](const ParameterRow& row) {
+      return taken.contains(portKey(row.first()));
     });
   }
   return common;
 }
 
 }  // namespace
+
+bool isColour(const ValueType& type) {
+  const auto& names = type.components;
+  if (type.scalar != ScalarKind::Float || names.size() < 3 || names.size() > 4) return false;
+  return names[0] == "r" && names[1] == "g" && names[2] == "b" &&
+         (names.size() < 4 || names[3] == "a");
+}
 
 RowKind rowKindOf(const PortObject& port) {
   const ValueType& type = port.valueType();
@@ -145,7 +147,13 @@ RowKind rowKindOf(const PortObject& port) {
   if (isMatrix(type)) return RowKind::Matrix;
   if (!type.components.empty()) return RowKind::Components;
   if (!readChoices(port).empty()) return RowKind::Choice;
-  return scalarKind(type.scalar);
+  const RowKind kind = scalarKind(type.scalar);
+  return kind == RowKind::Text && textLines(port) > 1 ? RowKind::Paragraph : kind;
+}
+
+int textLines(const PortObject& port) {
+  constexpr double kMostLines = 20;
+  return static_cast<int>(std::clamp(metadataNumber(port, "lines").value_or(1), 1.0, kMostLines));
 }
 
 std::vector<RowGroup> makeRows(std::span<const NodeRef> nodes) {

@@ -9,11 +9,17 @@
 
 namespace orvuilib {
 
-/// What a value is edited with.
-enum class RowKind { Boolean, Number, Components, Matrix, Colour, Text, Choice, Array };
+/// Whether values of the type have the components r, g, b, and perhaps a.
+bool isColour(const orvlib::ValueType& type);
 
-/// By the port's type, and by the choices that the port's metadata offer.
+/// What a value is edited with.
+enum class RowKind { Boolean, Number, Components, Matrix, Colour, Text, Paragraph, Choice, Array };
+
+/// By the port's type, and by the choices and the lines of text that the port's metadata ask for.
 ORVUI_EXPORT RowKind rowKindOf(const orvlib::PortObject& port);
+
+/// How many lines of text the port's metadata ask for, 1 to 20: the key "lines".
+ORVUI_EXPORT int textLines(const orvlib::PortObject& port);
 
 /// One line of the parameter editor: a port of that name and type, of each node that has one.
 struct ParameterRow {

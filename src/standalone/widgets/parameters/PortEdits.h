@@ -15,6 +15,12 @@ ORVUI_EXPORT orvUI_v1::CommandHook* hookOf(const orvlib::GraphCore& core);
 /// Whether the port's value can be set now. Whether it is connected is not asked.
 ORVUI_EXPORT bool canEdit(const orvlib::PortObject& port);
 
+/// Whether the level that the node stands in takes edits, and a hook makes them.
+ORVUI_EXPORT bool isInOpenLevel(const orvlib::NodeObject& node);
+
+/// Why that is not so, as a user is told; empty when it is.
+ORVUI_EXPORT QString readOnlyReason(const orvlib::NodeObject& node);
+
 /// A port and a value for it, one text a component.
 struct PortValue {
   orvlib::PortRef port;
@@ -22,9 +28,10 @@ struct PortValue {
 };
 
 /// One line of edit for each port, and one step of undo for all of them. `what` names the step.
-/// Ports that cannot be edited are passed over.
-ORVUI_EXPORT void setPortValues(const std::vector<PortValue>& values, const QString& what);
-ORVUI_EXPORT void resetPortValues(const std::vector<orvlib::PortRef>& ports, const QString& what);
+/// Ports that cannot be edited are passed over. Whether each of the others now has what was asked
+/// for.
+ORVUI_EXPORT bool setPortValues(const std::vector<PortValue>& values, const QString& what);
+ORVUI_EXPORT bool resetPortValues(const std::vector<orvlib::PortRef>& ports, const QString& what);
 
 /// Values on their way, as while a slider moves: they are shown in the graph and nothing is kept to
 /// undo them by. What ends it leaves either one step of undo, back to where it began, or nothing.
@@ -40,8 +47,16 @@ class ORVUI_EXPORT LiveEdit {
   /// The values must be of ports that it was made with.
   void show(const std::vector<PortValue>& values);
 
-  /// Makes what was shown last one step of undo, unless that is how it was before.
-  void commit(const QString& what);
+  /// Makes what was shown last one step of undo, unless that is how it was before. As
+  /// `setPortValues` tells.
+  bool commit(const QString& what);
+
+  /// What others did to a port meanwhile, as by undo, is what it is put back to.
+  void follow();
+
+  /// Puts back what was out of reach when its edit was cancelled, as in a node that was removed and
+  /// has come back.
+  static void putBackStranded();
 
   /// Puts back how it was.
   void cancel();
@@ -55,7 +70,9 @@ class ORVUI_EXPORT LiveEdit {
     bool own;
   };
 
-  void putBack() const;
+  static Before read(const orvlib::PortRef& port);
+  static void putBack(const std::vector<Before>& all);
+  static std::vector<Before>& stranded();
   bool isAsBefore() const;
 
   std::vector<Before> before_;

@@ -15,7 +15,10 @@ void RowEdits::setRow(ParameterRow row) {
   readAgain();
 }
 
-void RowEdits::readAgain() { state_ = readState(row_); }
+void RowEdits::readAgain() {
+  if (live_) live_->follow();
+  state_ = readState(row_);
+}
 
 std::vector<PortRef> RowEdits::editablePorts() const {
   std::vector<PortRef> ports;
@@ -25,20 +28,10 @@ std::vector<PortRef> RowEdits::editablePorts() const {
   return ports;
 }
 
-std::vector<PortValue> RowEdits::values(const QStringList& texts) const {
-  std::vector<PortValue> values;
-  for (const PortRef& port : editablePorts()) values.push_back({port, texts});
-  return values;
-}
-
-/// Each port keeps its other components.
-std::vector<PortValue> RowEdits::values(int index, const QString& text) const {
+std::vector<PortValue> RowEdits::values(const Change& change) const {
   std::vector<PortValue> values;
   for (const PortRef& port : editablePorts()) {
-    QStringList texts = valueTexts(*port);
-    if (index >= texts.size()) continue;
-    texts[index] = text;
-    values.push_back({port, texts});
+    if (auto texts = change(valueTexts(*port))) values.push_back({port, *std::move(texts)});
   }
   return values;
 }
@@ -47,29 +40,34 @@ QString RowEdits::stepName(const char* verb) const {
   return QString("%1 %2").arg(verb, row_.label);
 }
 
-void RowEdits::set(const QStringList& texts) { setPortValues(values(texts), stepName("Set")); }
-
-void RowEdits::setComponent(int index, const QString& text) {
-  setPortValues(values(index, text), stepName("Set"));
+bool RowEdits::change(const Change& change) {
+  return setPortValues(values(change), stepName("Set"));
 }
 
-void RowEdits::reset() { resetPortValues(editablePorts(), stepName("Reset")); }
+bool RowEdits::reset() { return resetPortValues(editablePorts(), stepName("Reset")); }
 
-void RowEdits::show(const QStringList& texts) { show(values(texts)); }
-
-void RowEdits::showComponent(int index, const QString& text) { show(values(index, text)); }
-
-void RowEdits::show(const std::vector<PortValue>& values) {
+void RowEdits::show(const Change& change) {
   if (!live_) live_ = std::make_unique<LiveEdit>(editablePorts());
-  live_->show(values);
+  live_->show(values(change));
 }
 
-void RowEdits::end() {
+bool RowEdits::end() {
   // The commit may lead back here.
   const auto live = std::move(live_);
-  if (live) live->commit(stepName("Set"));
+  return !live || live->commit(stepName("Set"));
 }
 
 void RowEdits::cancel() { live_.reset(); }
+
+RowEdits::Change toValue(const QStringList& texts) {
+  return [texts](const QStringList&) { return std::optional(texts); };
+}
+
+RowEdits::Change toPart(int first, const QStringList& texts) {
+  return [first, texts](const QStringList& all) -> std::optional<QStringList> {
+    if (first < 0 || first + texts.size() > all.size()) return std::nullopt;
+    return all.mid(0, first) + texts + all.mid(first + texts.size());
+  };
+}
 
 }  // namespace orvuilib

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 #include "platform/orvUI_1_0/OrvUiApi.h"
 #include "standalone/widgets/parameters/PortEdits.h"
@@ -8,10 +10,14 @@
 
 namespace orvuilib {
 
-/// The edits of one row: each sets its value, or one component of it, for all ports of the row that
-/// can be edited and are not connected.
+/// The edits of one row: each changes its value, or a part of it, for all ports of the row that can
+/// be edited and are not connected. Those that tell how it went say whether each of these ports now
+/// has what was asked for.
 class ORVUI_EXPORT RowEdits {
  public:
+  /// What becomes of the texts of one port; nothing leaves the port out.
+  using Change = std::function<std::optional<QStringList>(const QStringList&)>;
+
   explicit RowEdits(ParameterRow row);
 
   const ParameterRow& row() const { return row_; }
@@ -23,27 +29,30 @@ class ORVUI_EXPORT RowEdits {
   const RowState& state() const { return state_; }
   void readAgain();
 
-  void set(const QStringList& texts);
-  void setComponent(int index, const QString& text);
-  void reset();
+  bool change(const Change& change);
+  bool reset();
 
   /// A value on its way, until `end` or `cancel`. It begins with the first that is shown.
-  void show(const QStringList& texts);
-  void showComponent(int index, const QString& text);
-  void end();
+  void show(const Change& change);
+  bool end();
   void cancel();
   bool isLive() const { return live_ != nullptr; }
 
  private:
   std::vector<orvlib::PortRef> editablePorts() const;
-  std::vector<PortValue> values(const QStringList& texts) const;
-  std::vector<PortValue> values(int index, const QString& text) const;
-  void show(const std::vector<PortValue>& values);
+  std::vector<PortValue> values(const Change& change) const;
   QString stepName(const char* verb) const;
 
   ParameterRow row_;
   RowState state_;
   std::unique_ptr<LiveEdit> live_;
 };
+
+/// The whole value of each port.
+ORVUI_EXPORT RowEdits::Change toValue(const QStringList& texts);
+
+/// The components from `first` on; each port keeps its others. An array that is shorter is left
+/// out.
+ORVUI_EXPORT RowEdits::Change toPart(int first, const QStringList& texts);
 
 }  // namespace orvuilib

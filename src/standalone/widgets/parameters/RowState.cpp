@@ -52,16 +52,16 @@ void readComponentSources(RowState& state, const PortObject& port) {
   }
 }
 
-void readPort(RowState& state, const PortObject& port, const Value& first) {
+void readPort(RowState& state, const PortObject& port) {
   state.own = state.own || port.ownValue() != nullptr;
   readComponentSources(state, port);
+  if (port.valueType().isArray()) state.elements = std::max(state.elements, elementCount(port));
   if (port.isInput() && isConnected(port)) {
     ++state.connected;
     addSources(state, port);
   } else if (canEdit(port)) {
     state.editable = true;
   }
-  compare(state, first, port.unconnectedValue());
 }
 
 }  // namespace
@@ -85,11 +85,16 @@ RowState readState(const ParameterRow& row) {
   const std::size_t count = isArray ? 1 : row.type().componentCount();
   state.mixed.resize(count);
   state.componentSources.resize(count);
-  // A copy: the value of an object that goes while others are read would go with it.
-  const Value value = first.unconnectedValue();
-  for (const PortRef& port : row.ports) readPort(state, *port, value);
-  state.texts = valueTexts(first);
+  for (const PortRef& port : row.ports) {
+    readPort(state, *port);
+    if (port.get() != &first) compare(state, first.unconnectedValue(), port->unconnectedValue());
+  }
+  if (!isArray) state.texts = valueTexts(first);
   return state;
+}
+
+std::size_t elementCount(const PortObject& array) {
+  return orvlib::componentCount(array.unconnectedValue()) / array.valueType().componentCount();
 }
 
 QStringList valueTexts(const PortObject& port) {

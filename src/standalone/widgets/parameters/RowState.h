@@ -10,8 +10,11 @@ namespace orvuilib {
 
 /// What a row shows.
 struct ORVUI_EXPORT RowState {
-  /// One text a component, of the first port; for an array, of all its elements.
+  /// One text a component, of the first port; none for an array, which may be long.
   QStringList texts;
+
+  /// How many elements the longest of the arrays has.
+  std::size_t elements = 0;
 
   /// Per component whether the ports differ in it; for an array a single entry.
   std::vector<bool> mixed;
@@ -38,6 +41,9 @@ struct ORVUI_EXPORT RowState {
 };
 
 ORVUI_EXPORT RowState readState(const ParameterRow& row);
+
+/// How many elements the port's own array has.
+ORVUI_EXPORT std::size_t elementCount(const orvlib::PortObject& array);
 
 /// Whether the port, or a member of it, is connected. A connected component does not count.
 bool isConnected(const orvlib::PortObject& port);

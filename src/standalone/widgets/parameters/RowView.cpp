@@ -14,13 +14,9 @@ namespace orvuilib {
 RowView::RowView(QWidget* parent) : QAbstractScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setFocusPolicy(Qt::NoFocus);
+  setFocusPolicy(Qt::TabFocus);
   viewport()->setBackgroundRole(QPalette::Window);
   viewport()->setAutoFillBackground(true);
-}
-
-bool RowView::passes(const ParameterRow& row) const {
-  return filter_.isEmpty() || row.label.contains(filter_, Qt::CaseInsensitive);
 }
 
 void RowView::addGroup(const RowGroup& group) {
@@ -28,7 +24,7 @@ void RowView::addGroup(const RowGroup& group) {
   lines_.push_back({&group, nullptr, 0, 0});
   if (filter_.isEmpty() && !ParameterPreferences::isOpen(group.key)) return;
   for (const ParameterRow& row : group.rows) {
-    if (passes(row)) lines_.push_back({&group, &row, 0, 0});
+    if (filter_.isEmpty() || filter_.passes(row)) lines_.push_back({&group, &row, 0, 0});
   }
   const bool hasRows = lines_.size() > heading + 1;
   if (!hasRows && !filter_.isEmpty()) lines_.pop_back();
@@ -86,8 +82,9 @@ void RowView::setGroups(std::vector<RowGroup> groups) {
 }
 
 void RowView::setFilter(const QString& text) {
-  if (text == filter_) return;
-  filter_ = text;
+  const RowFilter filter(text);
+  if (filter == filter_) return;
+  filter_ = filter;
   makeLines();
 }
 
@@ -95,6 +92,13 @@ void RowView::refresh() {
   for (QWidget* widget : std::as_const(widgets_)) {
     if (auto* row = dynamic_cast<RowWidget*>(widget)) row->refresh();
   }
+}
+
+bool RowView::isLive() const {
+  return std::ranges::any_of(widgets_, [](const QWidget* widget) {
+    const auto* row = dynamic_cast<const RowWidget*>(widget);
+    return row && row->isLive();
+  });
 }
 
 std::size_t RowView::firstVisible() const {
@@ -141,6 +145,9 @@ QWidget* RowView::makeRow(const Line& line) {
   widget->edited = [this] {
     if (edited) edited();
   };
+  widget->refused = [this](const QString& reason) {
+    if (refused) refused(reason);
+  };
   return widget;
 }
 
@@ -151,10 +158,17 @@ QWidget* RowView::makeHeader(const Line& line) {
   return header;
 }
 
+/// Such as a picker or a menu.
+bool RowView::hasOpenWindow(const QWidget& row) {
+  return std::ranges::any_of(row.findChildren<QWidget*>(), [](const QWidget* widget) {
+    return widget->isWindow() && widget->isVisible();
+  });
+}
+
 /// What a user is at work with stays, out of sight.
 bool RowView::mustStay(const QWidget& widget) const {
   const auto* row = dynamic_cast<const RowWidget*>(&widget);
-  if (row && row->isLive()) return true;
+  if (row && (row->isLive() || hasOpenWindow(*row))) return true;
   const QWidget* focused = QApplication::focusWidget();
   return focused && widget.isAncestorOf(focused);
 }

@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "platform/orvUI_1_0/OrvUiApi.h"
-#include "standalone/widgets/parameters/ParameterRow.h"
+#include "standalone/widgets/parameters/RowFilter.h"
 
 namespace orvuilib {
 
@@ -23,8 +23,8 @@ class ORVUI_EXPORT RowView final : public QAbstractScrollArea {
   /// view keeps its place.
   void setGroups(std::vector<RowGroup> groups);
 
-  /// Only rows whose name holds this text are shown, and only groups with such rows. Groups are all
-  /// open then.
+  /// Only rows that pass (see `RowFilter`) are shown, and only groups with such rows. Groups are
+  /// all open then.
   void setFilter(const QString& text);
 
   /// Shows what the graph has now.
@@ -36,14 +36,21 @@ class ORVUI_EXPORT RowView final : public QAbstractScrollArea {
   /// The widget of the row of that port name, brought into view; null when there is none.
   RowWidget* rowOf(const QString& label);
 
+  /// Whether a value is on its way.
+  bool isLive() const;
+
   /// How many rows have widgets now.
   std::size_t widgetCount() const { return static_cast<std::size_t>(widgets_.size()); }
 
   /// An edit has been made, which the graph may have refused.
   std::function<void()> edited;
 
+  /// Called with the reason why what a user did had no effect.
+  std::function<void(const QString&)> refused;
+
  protected:
   bool focusNextPrevChild(bool next) override;
+  void focusInEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   bool event(QEvent* event) override;
@@ -61,7 +68,6 @@ class ORVUI_EXPORT RowView final : public QAbstractScrollArea {
   void makeLines();
   void measure();
   void addGroup(const RowGroup& group);
-  bool passes(const ParameterRow& row) const;
   int totalHeight() const;
 
   /// Makes the widgets of what can be seen, and drops those of what cannot.
@@ -73,19 +79,22 @@ class ORVUI_EXPORT RowView final : public QAbstractScrollArea {
   void dropUnseen(const QSet<QString>& seen);
   bool isKnown(const QString& key) const;
   bool mustStay(const QWidget& widget) const;
+  static bool hasOpenWindow(const QWidget& row);
   void setOpen(const QString& row, bool open);
   void setGroupOpen(const QString& group, bool open);
 
   /// The line of what has the focus; the number of lines when it is none of them.
   std::size_t focusedLine() const;
   bool focusIn(std::size_t line, bool first);
+  bool focusFrom(std::size_t line, bool next);
+  bool focusAround(bool next);
   void showLine(const Line& line);
 
   std::vector<RowGroup> groups_;
   std::vector<Line> lines_;
   QHash<QString, QWidget*> widgets_;
   QSet<QString> openRows_;
-  QString filter_;
+  RowFilter filter_;
   bool placing_ = false;
 };
 

@@ -19,9 +19,21 @@ void Preferences::replaceAll(const QJsonObject& preferences) {
   emit changed();
 }
 
-QJsonObject Preferences::section(const QString& name) const { return all_.value(name).toObject(); }
+/// What is stored is never overwritten by what a session knows that did not look there.
+void Preferences::loadOnce() {
+  AppServicesHook* hook = HookRegistry::appServicesHook();
+  if (!hook || loadedRound_ == HookRegistry::servicesRound()) return;
+  loadedRound_ = HookRegistry::servicesRound();
+  hook->syncUserPrefs(AppServicesHook::kLoadPrefs);
+}
+
+QJsonObject Preferences::section(const QString& name) {
+  loadOnce();
+  return all_.value(name).toObject();
+}
 
 void Preferences::setSection(const QString& name, const QJsonObject& section) {
+  loadOnce();
   QJsonObject all = all_;
   if (section.isEmpty()) {
     all.remove(name);

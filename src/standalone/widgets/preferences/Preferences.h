@@ -9,7 +9,8 @@
 namespace orvuilib {
 
 /// What the user prefers, for all editors together. Each editor keeps a section of its own, an
-/// object under a key, of what differs from the editor's start.
+/// object under a key, of what differs from the editor's start. What the program stored is loaded
+/// by way of the hook when a section is first asked for or set, and again after another hook came.
 class ORVUI_EXPORT Preferences final : public QObject {
   Q_OBJECT
 
@@ -24,7 +25,7 @@ class ORVUI_EXPORT Preferences final : public QObject {
   void replaceAll(const QJsonObject& preferences);
 
   /// Empty when there is none, or when something else than an object stands there.
-  QJsonObject section(const QString& name) const;
+  QJsonObject section(const QString& name);
 
   /// Replaces a section and stores all preferences by way of the hook; an empty section is none.
   /// Nothing happens when the section is like that already.
@@ -41,8 +42,12 @@ class ORVUI_EXPORT Preferences final : public QObject {
 
  private:
   Preferences() = default;
+  void loadOnce();
 
   QJsonObject all_;
+
+  /// Of the hook that they were loaded by; see `HookRegistry::servicesRound`.
+  unsigned int loadedRound_ = 0;
   bool everHadAny_ = false;
   int mouseButtons_ = 3;
 };

@@ -77,6 +77,30 @@ TEST_F(ModifyNodePortCommandTest, AnInteractiveValueKeepsNothingToUndo) {
   EXPECT_EQ(values("/a.b"), Texts{"0"});
 }
 
+TEST_F(ModifyNodePortCommandTest, NoInteractiveValueGivesTheDefaultBackForGood) {
+  const std::string before = text();
+  ASSERT_TRUE(set("/a", "a", {"1"}, true));
+  ASSERT_TRUE(command_.redo());
+  ORV_v1::ModifyNodePortCommand command;
+  EXPECT_FALSE(command.setPortValues(node("/a"), "a", array({}), false));
+  ASSERT_TRUE(command.setPortValues(node("/a"), "a", array({}), true));
+  ASSERT_TRUE(command.redo());
+  EXPECT_EQ(text(), before);
+  command.undo();
+  EXPECT_EQ(text(), before);
+}
+
+TEST_F(ModifyNodePortCommandTest, AnArrayHasNoElementsByNoInteractiveValue) {
+  add(top(), "core::array::build", "list");
+  ORV_v1::PortProperties properties;
+  properties.defaultValues().setValues(array({"1", "2"}));
+  ASSERT_TRUE(command_.createPort(node("/list"), PortIOType::kInput, "numbers", "array<float>",
+                                  properties));
+  ASSERT_TRUE(set("/list", "numbers", {}, true));
+  ASSERT_TRUE(command_.redo());
+  EXPECT_EQ(values("/list.numbers"), Texts{});
+}
+
 TEST_F(ModifyNodePortCommandTest, AnInteractiveValueIsTakenBackWhenTheCommandFails) {
   ASSERT_TRUE(set("/a", "a", {"1"}, true));
   ASSERT_TRUE(set("/b", "a", {"1"}));

@@ -2,9 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <QJsonDocument>
 #include <QSignalSpy>
 #include <memory>
 
+#include "platform/orvUI_1_0/UserPrefs.h"
 #include "standalone/widgets/colour/ColourRegistry.h"
 #include "standalone/widgets/colour/ManagedColour.h"
 #include "tests/standalone/widgets/colour/ColourTesting.h"
@@ -85,6 +87,24 @@ TEST_F(BaseHandler, WithoutStoredPreferencesNothingChanges) {
   handler.restoreUserPrefs();
   EXPECT_TRUE(handler.enabled());
   EXPECT_EQ(handler.mixingSpace(), "Half");
+}
+
+TEST_F(BaseHandler, PreferencesThatComeAreTakenUp) {
+  const HalvingHandler first;
+  HalvingHandler handler;
+  orvUI_v1::setUserPrefs(QJsonDocument(
+      QJsonObject{{"colorManagement", QJsonObject{{"mixingSpace", "Other"}, {"enabled", false}}}}));
+  EXPECT_EQ(handler.mixingSpace(), "Other");
+  EXPECT_FALSE(handler.enabled());
+  EXPECT_TRUE(first.enabled()) << "it is registered no longer";
+}
+
+TEST_F(BaseHandler, TakesUpPreferencesThatAreThereAlready) {
+  Preferences::instance().replaceAll(
+      {{"colorManagement", QJsonObject{{"mixingSpace", "Other"}, {"enabled", false}}}});
+  HalvingHandler handler;
+  EXPECT_EQ(handler.mixingSpace(), "Other");
+  EXPECT_FALSE(handler.enabled());
 }
 
 TEST_F(BaseHandler, AStoredSpaceThatIsRefusedLeavesTheOldOne) {

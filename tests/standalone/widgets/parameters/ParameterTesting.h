@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLabel>
 #include <QTest>
 
 #include "hook/orvVeskCommandHook.h"

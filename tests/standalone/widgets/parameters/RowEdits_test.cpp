@@ -66,7 +66,21 @@ TEST_F(RowEditsTest, ADragOfManyNodesIsOneStepBackToWhatEachHad) {
   QTest::mouseRelease(slider, Qt::LeftButton, {}, {slider->width() / 2, 5});
   settle();
   EXPECT_EQ(value("/one.a"), value("/two.a"));
+  const std::string line = "\" -setPortDefaultValues \"a\" \"" + value("/one.a") + "\"";
+  EXPECT_THAT(lines(), ElementsAre("orvNode \"g\" \"/one" + line, "orvNode \"g\" \"/two" + line,
+                                   "orvNode \"g\" \"/three" + line));
   expectOneStep(before);
+}
+
+TEST_F(RowEditsTest, AResetLeavesConnectedPortsAlone) {
+  host.run("orvNode g \"/one\" -setPortDefaultValues \"a\" \"3\"");
+  host.run("orvNode g \"/two\" -setPortDefaultValues \"a\" \"2\"");
+  host.run("orvConnect g \"/one.result\" \"/two.a\"");
+  select(paths);
+  QTest::mouseClick(row("a")->findChild<QWidget*>("reset"), Qt::LeftButton);
+  settle();
+  EXPECT_EQ(value("/one.a"), "0");
+  EXPECT_EQ(value("/two.a"), "2");
 }
 
 TEST_F(RowEditsTest, ResetOfManyNodesIsOneStep) {

@@ -1,10 +1,12 @@
 #include "standalone/widgets/parameters/RowView.h"
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QScrollBar>
 
 #include "standalone/widgets/parameters/GroupHeader.h"
 #include "standalone/widgets/parameters/ParameterPreferences.h"
+#include "standalone/widgets/parameters/fields/RangePopup.h"
 #include "tests/standalone/widgets/parameters/ParameterTesting.h"
 
 namespace orvuilib {
@@ -21,6 +23,11 @@ class RowViewTest : public ParameterTest {
     }
     host.run(line);
     select({"/box"});
+  }
+
+  static void pressTab() {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    settle();
   }
 
   QLineEdit* search() { return editor.findChild<QLineEdit*>("search"); }
@@ -51,14 +58,67 @@ TEST_F(RowViewTest, TheTabKeyWalksThroughAllRows) {
   selectPorts(100);
   QTest::mouseClick(entry("p0"), Qt::LeftButton);
   for (int i = 1; i < 100; ++i) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    settle();
+    pressTab();
+    EXPECT_NE(dynamic_cast<RangeSlider*>(QApplication::focusWidget()), nullptr) << i;
+    pressTab();
   }
   auto* last = dynamic_cast<EntryField*>(QApplication::focusWidget());
   ASSERT_NE(last, nullptr);
   EXPECT_EQ(last, entry("p99"));
   QTest::keyClick(last, Qt::Key_Backtab);
-  EXPECT_EQ(QApplication::focusWidget(), entry("p98"));
+  EXPECT_EQ(QApplication::focusWidget(), part<RangeSlider>("p98"));
+}
+
+TEST_F(RowViewTest, TheTabKeyComesInAtTheHeadingAndGoesOutAtTheEnd) {
+  selectPorts(2);
+  search()->setFocus();
+  pressTab();
+  EXPECT_EQ(QApplication::focusWidget(), find<GroupHeader>());
+  for (int i = 0; i < 4; ++i) pressTab();
+  EXPECT_EQ(QApplication::focusWidget(), part<RangeSlider>("p1"));
+  pressTab();
+  EXPECT_FALSE(rows().isAncestorOf(QApplication::focusWidget()));
+  search()->setFocus();
+  pressTab();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+  EXPECT_EQ(QApplication::focusWidget(), search());
+}
+
+TEST_F(RowViewTest, KeysCloseAndOpenAGroup) {
+  selectPorts(2);
+  auto* header = find<GroupHeader>();
+  header->setFocus();
+  QTest::keyClick(header, Qt::Key_Space);
+  settle();
+  EXPECT_EQ(rows().rowOf("p1"), nullptr);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  settle();
+  EXPECT_NE(rows().rowOf("p1"), nullptr);
+}
+
+TEST_F(RowViewTest, TheTabKeyReachesTheResetButton) {
+  selectPorts(2);
+  enter(entry("p0"), "3");
+  pressTab();
+  pressTab();
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "reset");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  settle();
+  EXPECT_EQ(value("/box.p0"), "0");
+  EXPECT_TRUE(rows().isAncestorOf(QApplication::focusWidget())) << "the focus is not lost";
+}
+
+TEST_F(RowViewTest, WhatIsOpenSurvivesScrolling) {
+  selectPorts(100);
+  auto* slider = part<RangeSlider>("p0");
+  QTest::keyClick(slider, Qt::Key_Menu);
+  QPointer<RangePopup> popup = part<RangePopup>("p0");
+  ASSERT_TRUE(popup);
+  entry("p1")->setFocus();
+  rows().verticalScrollBar()->setValue(rows().verticalScrollBar()->maximum());
+  settle();
+  ASSERT_TRUE(popup);
+  EXPECT_TRUE(popup->isVisible());
 }
 
 TEST_F(RowViewTest, WhatHasTheFocusSurvivesScrolling) {

@@ -25,6 +25,9 @@ class PreferencesTest : public testing::Test {
     preferences.replaceAll({{"kept", true}});
     preferences.setMouseButtons(3);
     orvUI_v1::setAppServicesHook(&hook);
+    // They were loaded before.
+    preferences.section("kept");
+    hook.syncs.clear();
     counting = QObject::connect(&preferences, &Preferences::changed, [this] { ++changes; });
   }
   ~PreferencesTest() override { QObject::disconnect(counting); }
@@ -129,6 +132,53 @@ TEST_F(PreferencesTest, WithoutAHookASectionIsKeptAllTheSame) {
   orvUI_v1::setAppServicesHook(nullptr);
   preferences.setSection("grid", parse(R"({"size":4})"));
   EXPECT_EQ(preferences.section("grid"), parse(R"({"size":4})"));
+}
+
+// Loading.
+
+/// A program that stored these preferences.
+class StoringHook : public IdleServicesHook {
+ public:
+  explicit StoringHook(QJsonObject preferences) : stored(std::move(preferences)) {}
+  void syncUserPrefs(int direction) override {
+    IdleServicesHook::syncUserPrefs(direction);
+    if (direction == kLoadPrefs) {
+      setUserPrefs(QJsonDocument(stored));
+    } else {
+      stored = getUserPrefs({}).object();
+    }
+  }
+
+  QJsonObject stored;
+};
+
+TEST_F(PreferencesTest, WhatIsStoredIsLoadedWhenASectionIsFirstAskedFor) {
+  StoringHook program(parse(R"({"grid":{"size":4}})"));
+  orvUI_v1::setAppServicesHook(&program);
+  EXPECT_THAT(program.syncs, IsEmpty());
+  EXPECT_EQ(preferences.section("grid"), parse(R"({"size":4})"));
+  EXPECT_EQ(preferences.section("grid"), parse(R"({"size":4})"));
+  EXPECT_THAT(program.syncs, ElementsAre(1)) << "once";
+}
+
+TEST_F(PreferencesTest, WhatOtherEditorsStoredIsNotOverwritten) {
+  StoringHook program(parse(R"({"grid":{"size":4},"menu":{"open":true}})"));
+  orvUI_v1::setAppServicesHook(&program);
+  preferences.setSection("grid", parse(R"({"size":5})"));
+  EXPECT_THAT(program.syncs, ElementsAre(1, 0));
+  EXPECT_EQ(program.stored, parse(R"({"grid":{"size":5},"menu":{"open":true}})"));
+}
+
+TEST_F(PreferencesTest, AnotherHookLoadsThemAgain) {
+  {
+    StoringHook program(parse(R"({"grid":{"size":4}})"));
+    orvUI_v1::setAppServicesHook(&program);
+    preferences.section("grid");
+  }
+  EXPECT_EQ(preferences.section("grid"), parse(R"({"size":4})")) << "without a hook they stay";
+  StoringHook next(parse(R"({"grid":{"size":6}})"));
+  orvUI_v1::setAppServicesHook(&next);
+  EXPECT_EQ(preferences.section("grid"), parse(R"({"size":6})"));
 }
 
 // The mouse.

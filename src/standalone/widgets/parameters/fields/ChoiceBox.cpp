@@ -3,11 +3,14 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "standalone/widgets/parameters/FieldStyle.h"
+
 namespace orvuilib {
 
 ChoiceBox::ChoiceBox(QWidget* parent) : QComboBox(parent) {
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   setMinimumContentsLength(1);
+  FieldStyle::applyTo(*this);
   connect(this, &QComboBox::activated, this, [this](int index) {
     const QString value = values_.value(index);
     if (!mixed_ && value == value_) return;

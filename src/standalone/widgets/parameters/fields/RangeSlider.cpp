@@ -7,13 +7,47 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "standalone/widgets/parameters/RowStyle.h"
 
 namespace orvuilib {
+namespace {
+
+/// How far a key leads, in steps; 0 for other keys.
+double stepsOf(const QKeyEvent& event) {
+  double steps = event.modifiers() & Qt::ShiftModifier     ? 10
+                 : event.modifiers() & Qt::ControlModifier ? 0.1
+                                                           : 1;
+  switch (event.key()) {
+    case Qt::Key_PageUp:
+      return 10;
+    case Qt::Key_PageDown:
+      return -10;
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+      return steps;
+    case Qt::Key_Left:
+    case Qt::Key_Down:
+      return -steps;
+    default:
+      return 0;
+  }
+}
+
+bool isMoveKey(const QKeyEvent& event) {
+  return stepsOf(event) != 0 || event.key() == Qt::Key_Home || event.key() == Qt::Key_End;
+}
+
+bool isMenuKey(const QKeyEvent& event) {
+  const bool withShift = event.modifiers() & Qt::ShiftModifier;
+  return event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && withShift);
+}
+
+}  // namespace
 
 RangeSlider::RangeSlider(QWidget* parent) : QWidget(parent) {
-  setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
@@ -56,33 +90,72 @@ void RangeSlider::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void RangeSlider::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !dragged_) return;
-  dragged_ = false;
-  update();
-  if (ended) ended();
+  if (event->button() == Qt::LeftButton && dragged_) end();
 }
 
 void RangeSlider::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && dragged_) {
+  if (event->key() == Qt::Key_Escape && isDragged()) {
     cancel();
+  } else if (isMoveKey(*event) && !dragged_) {
+    step(*event);
+  } else if (isMenuKey(*event) && menuAsked && !isDragged()) {
+    menuAsked(mapToGlobal(rect().center()));
   } else {
     QWidget::keyPressEvent(event);
   }
 }
 
-void RangeSlider::hideEvent(QHideEvent* event) {
+/// From several numbers that differ there is no step.
+void RangeSlider::step(const QKeyEvent& event) {
+  if (mixed_) return;
+  const double to = event.key() == Qt::Key_Home  ? least_
+                    : event.key() == Qt::Key_End ? most_
+                                                 : number_ + stepsOf(event) * step_;
+  const double number = std::clamp(to, std::min(least_, most_), std::max(least_, most_));
+  if (number == number_) return;
+  if (!std::exchange(stepping_, true) && began) began();
+  showNumber(number);
+  if (moved) moved(number);
+}
+
+void RangeSlider::keyReleaseEvent(QKeyEvent* event) {
+  if (stepping_ && isMoveKey(*event) && !event->isAutoRepeat()) end();
+  QWidget::keyReleaseEvent(event);
+}
+
+void RangeSlider::focusInEvent(QFocusEvent* event) {
+  update();
+  QWidget::focusInEvent(event);
+}
+
+/// A button or key that goes up elsewhere is not seen here.
+void RangeSlider::focusOutEvent(QFocusEvent* event) {
+  update();
+  QWidget::focusOutEvent(event);
+  if (event->reason() == Qt::PopupFocusReason) return;
+  if (stepping_) end();
   if (dragged_) cancel();
+}
+
+void RangeSlider::hideEvent(QHideEvent* event) {
+  if (isDragged()) cancel();
   QWidget::hideEvent(event);
 }
 
+void RangeSlider::end() {
+  dragged_ = stepping_ = false;
+  update();
+  if (ended) ended();
+}
+
 void RangeSlider::cancel() {
-  dragged_ = false;
+  dragged_ = stepping_ = false;
   update();
   if (cancelled) cancelled();
 }
 
 void RangeSlider::contextMenuEvent(QContextMenuEvent* event) {
-  if (menuAsked && !dragged_) {
+  if (menuAsked && !isDragged()) {
     menuAsked(event->globalPos());
   } else {
     event->ignore();
@@ -129,10 +202,16 @@ void RangeSlider::paintEvent(QPaintEvent*) {
     painter.setBrush(style::mix(accent, palette().color(QPalette::Window), 0.25));
     painter.drawRoundedRect(QRectF(rail.topLeft(), QPointF(x, rail.bottom())), round, round);
   }
+  paintKnob(painter, {x, rail.center().y()}, accent);
+}
+
+void RangeSlider::paintKnob(QPainter& painter, const QPointF& centre, const QColor& accent) {
   const double radius = height() * 0.26;
-  painter.setPen(QPen(style::mix(palette().color(QPalette::WindowText), accent, 0.6), 1));
-  painter.setBrush(dragged_ ? accent : palette().color(QPalette::Button));
-  painter.drawEllipse(QPointF(x, rail.center().y()), radius, radius);
+  const QColor plain = style::mix(palette().color(QPalette::WindowText), accent, 0.6);
+  const QColor focus = style::mix(palette().color(QPalette::WindowText), accent, 0.2);
+  painter.setPen(hasFocus() ? QPen(focus, std::max(2.0, radius / 2)) : QPen(plain, 1));
+  painter.setBrush(isDragged() ? accent : palette().color(QPalette::Button));
+  painter.drawEllipse(centre, radius, radius);
 }
 
 }  // namespace orvuilib

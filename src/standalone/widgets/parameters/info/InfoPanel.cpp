@@ -1,20 +1,18 @@
 #include "standalone/widgets/parameters/info/InfoPanel.h"
 
-#include <QCheckBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
-#include <QTableView>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "standalone/graph/model/CompoundObject.h"
+#include "standalone/graph/model/Changes.h"
 #include "standalone/widgets/parameters/Notes.h"
 #include "standalone/widgets/parameters/ParameterRow.h"
 #include "standalone/widgets/parameters/PortEdits.h"
+#include "standalone/widgets/parameters/info/InfoHeader.h"
 #include "standalone/widgets/parameters/info/MetadataTable.h"
-#include "standalone/widgets/parameters/info/PortsModel.h"
+#include "standalone/widgets/parameters/info/PortTable.h"
+#include "standalone/widgets/parameters/info/StateBoxes.h"
 #include "standalone/widgets/parameters/info/WatchView.h"
 
 namespace orvuilib {
@@ -23,36 +21,15 @@ using orvlib::NodeRef;
 using orvlib::PortRef;
 using orvUI_v1::CommandHook;
 
-namespace {
-
-constexpr int kMostPorts = 14;
-
-QToolButton* makeArrow(QChar sign, const char* tip, QWidget* parent) {
-  auto* button = new QToolButton(parent);
-  button->setText(sign);
-  button->setToolTip(tip);
-  button->setAutoRaise(true);
-  return button;
-}
-
-}  // namespace
-
 InfoPanel::InfoPanel(QWidget* parent)
     : QScrollArea(parent),
       page_(new QWidget(this)),
       blank_(makeNote("Nothing is selected", this)),
-      readOnly_(makeNote("Read-only: nothing here can be edited", page_)),
-      place_(makeText("place")),
-      previous_(makeArrow(QChar(0x2039), "The node before", page_)),
-      next_(makeArrow(QChar(0x203A), "The next node", page_)),
-      name_(makeText("name")),
-      type_(makeText("type")),
-      typeName_(makeText("typeName")),
-      path_(makeText("path")),
-      origin_(makeText("origin")),
-      description_(makeText("description")),
-      ports_(new PortsModel(this)),
-      portTable_(new QTableView(page_)),
+      readOnly_(makeNote({}, page_)),
+      header_(new InfoHeader(page_)),
+      states_(new StateBoxes(page_)),
+      ports_(new PortTable(page_)),
+      portMetadata_(new MetadataTable(page_)),
       nodeMetadata_(new MetadataTable(page_)),
       compoundMetadata_(new MetadataTable(page_)) {
   setFrameShape(QFrame::NoFrame);
@@ -62,54 +39,20 @@ InfoPanel::InfoPanel(QWidget* parent)
   auto* layout = new QVBoxLayout(page_);
   layout->setContentsMargins(2 * gap, 2 * gap, 2 * gap, 2 * gap);
   layout->setSpacing(gap);
-  makeHeader(*layout);
+  readOnly_->setObjectName("readOnly");
+  layout->addWidget(readOnly_);
+  layout->addWidget(header_);
   makeSections(*layout);
   layout->addStretch(1);
-  layout->addWidget(readOnly_);
   auto* all = new QWidget(this);
   auto* outer = new QVBoxLayout(all);
   outer->setContentsMargins(0, 0, 0, 0);
   outer->addWidget(blank_);
   outer->addWidget(page_);
   setWidget(all);
+  header_->turnAsked = [this](int by) { turn(by); };
+  ports_->currentMoved = [this] { showPortMetadata(); };
   showNode(NodeRef());
-}
-
-QLabel* InfoPanel::makeText(const char* name) {
-  auto* label = new QLabel(page_);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  return label;
-}
-
-void InfoPanel::makeHeader(QVBoxLayout& layout) {
-  QFont large = font();
-  constexpr double kLarger = 1.35;
-  // A font has its size in points or in pixels.
-  if (large.pixelSize() > 0) {
-    large.setPixelSize(qRound(large.pixelSize() * kLarger));
-  } else {
-    large.setPointSizeF(large.pointSizeF() * kLarger);
-  }
-  large.setBold(true);
-  name_->setFont(large);
-  QPalette faint = palette();
-  faint.setColor(QPalette::WindowText, style::faintText(*this));
-  for (QLabel* label : {typeName_, origin_, path_, place_}) label->setPalette(faint);
-  auto* turner = new QHBoxLayout;
-  place_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-  place_->setWordWrap(false);
-  turner->addWidget(name_, 1);
-  turner->addWidget(previous_);
-  turner->addWidget(place_);
-  turner->addWidget(next_);
-  layout.addLayout(turner);
-  for (QLabel* label : {type_, typeName_, path_, origin_, description_}) layout.addWidget(label);
-  connect(previous_, &QToolButton::clicked, this, [this] { turn(-1); });
-  connect(next_, &QToolButton::clicked, this, [this] { turn(1); });
 }
 
 QLabel* InfoPanel::addSection(QVBoxLayout& layout, const char* title) {
@@ -119,6 +62,7 @@ QLabel* InfoPanel::addSection(QVBoxLayout& layout, const char* title) {
   bold.setBold(true);
   label->setFont(bold);
   label->setAutoFillBackground(true);
+  label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   QPalette bar = palette();
   bar.setColor(QPalette::Window, style::groupBackground(*this));
   label->setPalette(bar);
@@ -128,20 +72,24 @@ QLabel* InfoPanel::addSection(QVBoxLayout& layout, const char* title) {
   return label;
 }
 
+template <class Part>
+void InfoPanel::tellOf(Part& part) {
+  part.edited = [this] {
+    if (edited) edited();
+  };
+  part.refused = [this](const QString& reason) {
+    if (refused) refused(reason);
+  };
+}
+
 void InfoPanel::makeSections(QVBoxLayout& layout) {
   addSection(layout, "States");
-  flagLayout_ = new QVBoxLayout;
-  layout.addLayout(flagLayout_);
+  layout.addWidget(states_);
   addSection(layout, "Ports");
-  styleTable(*portTable_);
-  portTable_->setModel(ports_);
-  portTable_->setObjectName("ports");
-  portTable_->setIconSize(QSize(2, 2) * style::gap(*this));
-  QHeaderView& header = *portTable_->horizontalHeader();
-  header.setSectionResizeMode(QHeaderView::Stretch);
-  header.setSectionResizeMode(PortsModel::kWatch, QHeaderView::Fixed);
-  header.resizeSection(PortsModel::kWatch, style::lineHeight(*this));
-  layout.addWidget(portTable_);
+  layout.addWidget(ports_);
+  portTitle_ = addSection(layout, "Metadata of the port");
+  portMetadata_->setObjectName("port metadata");
+  layout.addWidget(portMetadata_);
   addSection(layout, "Metadata");
   nodeMetadata_->setObjectName("node metadata");
   layout.addWidget(nodeMetadata_);
@@ -151,19 +99,19 @@ void InfoPanel::makeSections(QVBoxLayout& layout) {
   watchTitle_ = addSection(layout, "Watch points");
   watchLayout_ = new QVBoxLayout;
   layout.addLayout(watchLayout_);
-  ports_->edited = [this] { tellEdited(); };
-  nodeMetadata_->edited = [this] { tellEdited(); };
-  compoundMetadata_->edited = [this] { tellEdited(); };
+  tellOf(*states_);
+  tellOf(ports_->ports());
+  for (MetadataTable* table : {portMetadata_, nodeMetadata_, compoundMetadata_}) tellOf(*table);
 }
 
-void InfoPanel::tellEdited() {
-  if (edited) edited();
+int InfoPanel::placeOfNode() const {
+  const auto isShown = [this](const NodeRef& node) { return node.get() == node_.get(); };
+  return static_cast<int>(std::ranges::find_if(nodes_, isShown) - nodes_.begin());
 }
 
 void InfoPanel::showNodes(const std::vector<NodeRef>& nodes) {
   nodes_ = nodes;
-  const auto isShown = [this](const NodeRef& node) { return node.get() == node_.get(); };
-  if (std::ranges::any_of(nodes_, isShown)) {
+  if (node_ && placeOfNode() < static_cast<int>(nodes_.size())) {
     refresh();
   } else {
     showNode(nodes_.empty() ? NodeRef() : nodes_.front());
@@ -171,16 +119,16 @@ void InfoPanel::showNodes(const std::vector<NodeRef>& nodes) {
 }
 
 void InfoPanel::turn(int by) {
-  const auto isShown = [this](const NodeRef& node) { return node.get() == node_.get(); };
-  const auto at = std::ranges::find_if(nodes_, isShown) - nodes_.begin() + by;
-  if (at >= 0 && at < static_cast<std::ptrdiff_t>(nodes_.size())) {
+  const int at = placeOfNode() + by;
+  if (at >= 0 && at < static_cast<int>(nodes_.size())) {
     showNode(nodes_[static_cast<std::size_t>(at)]);
   }
 }
 
 void InfoPanel::showNode(const NodeRef& node) {
   node_ = node;
-  ports_->show(node_);
+  states_->showNode(node_);
+  ports_->ports().show(node_);
   const auto target = [this](bool shown, NodeMetadata::Kind kind) {
     return shown ? std::make_unique<NodeMetadata>(node_, kind) : nullptr;
   };
@@ -189,110 +137,67 @@ void InfoPanel::showNode(const NodeRef& node) {
   compoundMetadata_->showTarget(target(isCompound, CommandHook::kTargetCompound));
   compoundMetadata_->setVisible(isCompound);
   compoundTitle_->setVisible(isCompound);
-  makeFlagBoxes();
+  showPortMetadata();
   verticalScrollBar()->setValue(0);
   refresh();
 }
 
-void InfoPanel::follow(unsigned char) { refresh(); }
+void InfoPanel::showPortMetadata() {
+  const PortRef port = ports_->currentPort();
+  portMetadata_->showTarget(port ? std::make_unique<PortMetadata>(port) : nullptr);
+  portTitle_->setVisible(!!port);
+  portMetadata_->setVisible(!!port);
+  if (port) portTitle_->setText("Metadata of " + toText(port->name()));
+}
+
+void InfoPanel::follow(unsigned char bits) {
+  if (bits != 0 || !node_) {
+    refresh();
+  } else {
+    for (WatchView* view : watches_) view->followRecords();
+    if (!watches_.empty()) ports_->viewport()->update();
+  }
+}
 
 void InfoPanel::refresh() {
   page_->setVisible(!!node_);
   blank_->setVisible(!node_);
-  if (!node_) {
-    refreshWatches();
-    return;
-  }
-  refreshTexts();
-  refreshFlags();
-  ports_->refresh();
-  fitHeight(*portTable_, kMostPorts);
-  nodeMetadata_->refresh();
-  compoundMetadata_->refresh();
   refreshWatches();
-}
-
-void InfoPanel::refreshTexts() {
-  const auto* known = node_->description();
-  const auto* compound = node_->compound();
-  name_->setText(toText(node_->name()));
-  type_->setText(niceTypeName(*node_));
-  typeName_->setText(toText(node_->typeName()));
-  path_->setText(toText(node_->fullPath()));
-  const QString origin = compound ? toText(compound->origin()) : QString();
-  const bool isReference = compound && compound->isReference();
-  origin_->setText((isReference ? "A reference to " : "A copy of ") + origin);
-  origin_->setVisible(!origin.isEmpty());
-  description_->setText(known ? toText(known->description) : QString());
-  description_->setVisible(!description_->text().isEmpty());
-  const auto isShown = [this](const NodeRef& node) { return node.get() == node_.get(); };
-  const auto at = std::ranges::find_if(nodes_, isShown) - nodes_.begin();
-  const auto count = static_cast<std::ptrdiff_t>(nodes_.size());
-  place_->setText(QString("%1 of %2").arg(at + 1).arg(count));
-  for (QWidget* part : {static_cast<QWidget*>(place_), static_cast<QWidget*>(previous_),
-                        static_cast<QWidget*>(next_)}) {
-    part->setVisible(count > 1);
-  }
-  previous_->setEnabled(at > 0);
-  next_->setEnabled(at + 1 < count);
-  readOnly_->setVisible(!hookOf(node_->core()));
-}
-
-void InfoPanel::makeFlagBoxes() {
-  for (QCheckBox* box : flagBoxes_) {
-    box->hide();
-    box->deleteLater();
-  }
-  flagBoxes_.clear();
   if (!node_) return;
-  const ORV_v1::NodeStateFlags& flags = node_->getStateFlags();
-  for (unsigned int i = 0; i < flags.size(); ++i) {
-    const ORV_v1::NodeStateFlag flag = flags[i];
-    auto* box = new QCheckBox(QString::fromUtf8(flag.name.toChar()), page_);
-    box->setToolTip(QString::fromUtf8(flag.description.toChar()));
-    box->setObjectName(QString("flag ") + QChar(flag.key));
-    connect(box, &QCheckBox::clicked, this, [this, key = flag.key, box] { setFlag(key, *box); });
-    flagLayout_->addWidget(box);
-    flagBoxes_.push_back(box);
-  }
+  refreshNotes();
+  header_->show(*node_, placeOfNode(), static_cast<int>(nodes_.size()));
+  states_->refresh();
+  ports_->refresh();
+  for (MetadataTable* table : {portMetadata_, nodeMetadata_, compoundMetadata_}) table->refresh();
 }
 
-/// The box shows what the graph has, not what was asked for.
-void InfoPanel::setFlag(char key, QCheckBox& box) {
-  CommandHook* hook = node_ && node_->container() ? hookOf(node_->core()) : nullptr;
-  if (hook) hook->setStateFlag(CommandHook::NodeHandle(node_.get()), key, box.isChecked());
-  refreshFlags();
-  tellEdited();
-}
-
-void InfoPanel::refreshFlags() {
-  const ORV_v1::NodeStateFlags& flags = node_->getStateFlags();
-  const bool isEditable = hookOf(node_->core()) != nullptr;
-  for (unsigned int i = 0; i < flags.size() && i < flagBoxes_.size(); ++i) {
-    flagBoxes_[i]->setChecked(flags[i].state == 0);
-    flagBoxes_[i]->setEnabled(isEditable);
-  }
+void InfoPanel::refreshNotes() {
+  const QString reason = readOnlyReason(*node_);
+  readOnly_->setText(reason);
+  readOnly_->setVisible(!reason.isEmpty());
 }
 
 void InfoPanel::refreshWatches() {
-  const std::vector<PortRef> watched = ports_->watchedPorts();
+  const std::vector<PortRef> watched = ports_->ports().watchedPorts();
   const auto isOf = [](const WatchView* view, const PortRef& port) {
     return &view->port() == port.get();
   };
-  if (!std::ranges::equal(watches_, watched, isOf)) {
-    for (WatchView* view : watches_) {
-      view->hide();
-      view->deleteLater();
-    }
-    watches_.clear();
-    for (const PortRef& port : watched) {
-      watches_.push_back(new WatchView(port, page_));
-      watches_.back()->edited = [this] { tellEdited(); };
-      watchLayout_->addWidget(watches_.back());
-    }
-  }
+  if (!std::ranges::equal(watches_, watched, isOf)) makeWatches(watched);
   watchTitle_->setVisible(!watched.empty());
   for (WatchView* view : watches_) view->refresh();
+}
+
+void InfoPanel::makeWatches(const std::vector<PortRef>& watched) {
+  for (WatchView* view : watches_) {
+    view->hide();
+    view->deleteLater();
+  }
+  watches_.clear();
+  for (const PortRef& port : watched) {
+    watches_.push_back(new WatchView(port, page_));
+    tellOf(*watches_.back());
+    watchLayout_->addWidget(watches_.back());
+  }
 }
 
 }  // namespace orvuilib

@@ -6,20 +6,19 @@
 #include "platform/orvUI_1_0/OrvUiApi.h"
 #include "standalone/graph/model/NodeObject.h"
 
-class QCheckBox;
 class QLabel;
-class QTableView;
-class QToolButton;
 class QVBoxLayout;
 
 namespace orvuilib {
 
+class InfoHeader;
 class MetadataTable;
-class PortsModel;
+class PortTable;
+class StateBoxes;
 class WatchView;
 
-/// What one of some nodes is: type, path, description, states, ports, metadata, watch points. Two
-/// buttons lead to the others.
+/// What one of some nodes is: type, path, description, states, ports and their metadata, its own
+/// metadata, watch points. Two buttons lead to the others.
 class ORVUI_EXPORT InfoPanel final : public QScrollArea {
  public:
   explicit InfoPanel(QWidget* parent);
@@ -27,7 +26,8 @@ class ORVUI_EXPORT InfoPanel final : public QScrollArea {
   /// All of the nodes are in graphs. The node that is shown stays when it is among them.
   void showNodes(const std::vector<orvlib::NodeRef>& nodes);
 
-  /// The nodes, or others of their graphs, have changed.
+  /// The nodes have changed as the bits tell (see `ChangeBits`); without any bit, others of their
+  /// graphs, which may have led to new records.
   void follow(unsigned char bits);
 
   /// Null when there is none.
@@ -36,39 +36,36 @@ class ORVUI_EXPORT InfoPanel final : public QScrollArea {
   /// An edit has been made, which the graph may have refused.
   std::function<void()> edited;
 
+  /// Called with the reason why what a user did had no effect.
+  std::function<void(const QString&)> refused;
+
  private:
-  void makeHeader(QVBoxLayout& layout);
   void makeSections(QVBoxLayout& layout);
-  QLabel* makeText(const char* name);
   QLabel* addSection(QVBoxLayout& layout, const char* title);
+
+  /// Passes on what the part tells.
+  template <class Part>
+  void tellOf(Part& part);
+
+  int placeOfNode() const;
   void showNode(const orvlib::NodeRef& node);
+  void showPortMetadata();
   void turn(int by);
-  void makeFlagBoxes();
-  void setFlag(char key, QCheckBox& box);
   void refresh();
-  void refreshTexts();
-  void refreshFlags();
+  void refreshNotes();
   void refreshWatches();
-  void tellEdited();
+  void makeWatches(const std::vector<orvlib::PortRef>& watched);
 
   std::vector<orvlib::NodeRef> nodes_;
   orvlib::NodeRef node_;
   QWidget* page_;
   QLabel* blank_;
   QLabel* readOnly_;
-  QLabel* place_;
-  QToolButton* previous_;
-  QToolButton* next_;
-  QLabel* name_;
-  QLabel* type_;
-  QLabel* typeName_;
-  QLabel* path_;
-  QLabel* origin_;
-  QLabel* description_;
-  QVBoxLayout* flagLayout_ = nullptr;
-  std::vector<QCheckBox*> flagBoxes_;
-  PortsModel* ports_;
-  QTableView* portTable_;
+  InfoHeader* header_;
+  StateBoxes* states_;
+  PortTable* ports_;
+  QLabel* portTitle_ = nullptr;
+  MetadataTable* portMetadata_;
   MetadataTable* nodeMetadata_;
   QLabel* compoundTitle_ = nullptr;
   MetadataTable* compoundMetadata_;

@@ -54,16 +54,21 @@ class ORVUI_EXPORT MetadataModel final : public QAbstractTableModel {
   };
 
   std::vector<Line> read() const;
-  bool isEditable() const { return target_ && target_->isEditable(); }
+  bool isEditableNow() const { return target_ && target_->isEditable(); }
   bool isNewLine(int line) const { return line == static_cast<int>(lines_.size()); }
   bool addKey(const QString& key);
+  bool addPending(const QString& value);
   bool renameKey(const Line& line, const QString& key);
   bool changeValue(const Line& line, const QString& value);
   bool refuse(const QString& reason);
   bool tellEdited();
+  QVariant newLineData(int column, int role) const;
 
+  /// A key that was entered and waits for its value.
+  QString pending_;
   std::unique_ptr<MetadataTarget> target_;
   std::vector<Line> lines_;
+  bool editable_ = false;
 };
 
 }  // namespace orvuilib

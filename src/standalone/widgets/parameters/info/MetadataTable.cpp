@@ -2,19 +2,20 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QToolTip>
 
+#include "standalone/widgets/parameters/FieldStyle.h"
 #include "standalone/widgets/parameters/RowStyle.h"
 
 namespace orvuilib {
 namespace {
 
-constexpr int kMostLines = 12;
+/// A table of more is scrolled in itself.
+constexpr int kMostLines = 500;
 
 }  // namespace
 
-void fitHeight(QTableView& table, int mostLines) {
-  const int lines = std::min(table.model()->rowCount(), mostLines);
+void fitHeight(QTableView& table) {
+  const int lines = std::min(table.model()->rowCount(), kMostLines);
   const int header = table.horizontalHeader()->sizeHint().height();
   table.setFixedHeight(header + lines * table.verticalHeader()->defaultSectionSize() +
                        2 * table.frameWidth());
@@ -28,6 +29,7 @@ void styleTable(QTableView& table) {
   table.setSelectionMode(QAbstractItemView::SingleSelection);
   table.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   table.verticalHeader()->hide();
+  FieldStyle::applyTo(table);
   table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   table.verticalHeader()->setDefaultSectionSize(style::lineHeight(table));
   table.horizontalHeader()->setHighlightSections(false);
@@ -44,10 +46,10 @@ MetadataTable::MetadataTable(QWidget* parent)
     if (edited) edited();
   };
   model_->refused = [this](const QString& reason) {
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), reason, this);
+    if (refused) refused(reason);
   };
-  connect(model_, &QAbstractItemModel::modelReset, this, [this] { fitHeight(*this, kMostLines); });
-  fitHeight(*this, kMostLines);
+  connect(model_, &QAbstractItemModel::modelReset, this, [this] { fitHeight(*this); });
+  fitHeight(*this);
 }
 
 void MetadataTable::showTarget(std::unique_ptr<MetadataTarget> target) {

@@ -8,8 +8,8 @@
 
 namespace orvuilib {
 
-/// Gives a table the height of its lines, up to so many; more are scrolled to.
-void fitHeight(QTableView& table, int mostLines);
+/// Gives a table the height of its lines.
+void fitHeight(QTableView& table);
 
 /// The looks that the tables of the info panel share.
 void styleTable(QTableView& table);
@@ -27,6 +27,9 @@ class ORVUI_EXPORT MetadataTable final : public QTableView {
 
   /// An edit has been made, which the graph may have refused.
   std::function<void()> edited;
+
+  /// Called with the reason why what a user did had no effect.
+  std::function<void(const QString&)> refused;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

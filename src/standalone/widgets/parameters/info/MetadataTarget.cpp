@@ -22,7 +22,8 @@ CommandHook::NodeHandle NodeMetadata::handle() const {
   return CommandHook::NodeHandle(node_.get());
 }
 
-bool NodeMetadata::isEditable() const { return hook() != nullptr; }
+/// A compound that is locked stands in an open level, so that the lock can be taken off.
+bool NodeMetadata::isEditable() const { return isInOpenLevel(*node_); }
 
 void NodeMetadata::set(const QString& key, const QString& value) {
   if (hook()) hook()->setMetaData(kind_, handle(), key, value);
@@ -45,6 +46,24 @@ void NodeMetadata::replace(const Properties& metadata) {
   hook()->setMetaDataFromString(kind_, handle(), ORV_v1::GraphAccess::makePropertyList(metadata));
 }
 
+bool PortMetadata::isEditable() const {
+  const orvlib::NodeObject* node = port_->node();
+  return node && isInOpenLevel(*node) && (!port_->isInner() || node->compound()->isOpenToEdits());
+}
+
+QString PortMetadata::hint() const {
+  return "min, max: what may be entered\nsoftMin, softMax: what the slider spans\n"
+         "choices: {VALUE=LABEL,...}\nlines: the height of a text field";
+}
+
+/// An empty value takes the key away.
+void PortMetadata::set(const QString& key, const QString& value) {
+  if (!isEditable()) return;
+  const auto kind = port_->isInner() ? CommandHook::kTargetCompound : CommandHook::kTargetNode;
+  hookOf(port_->node()->core())
+      ->setPortMetaDataValue(kind, CommandHook::PortHandle(port_.get()), key, value);
+}
+
 const Properties& WatchMetadata::metadata() const {
   static const Properties none;
   const orvlib::WatchPointObject* watch = port_->watchPoint();
@@ -53,7 +72,7 @@ const Properties& WatchMetadata::metadata() const {
 
 bool WatchMetadata::isEditable() const {
   const orvlib::NodeObject* node = port_->node();
-  return node && node->container() && port_->watchPoint() && hookOf(node->core());
+  return node && port_->watchPoint() && isInOpenLevel(*node);
 }
 
 void WatchMetadata::set(const QString& key, const QString& value) {

@@ -23,6 +23,15 @@ class ORVUI_EXPORT MetadataTarget {
   /// Whether there is more than to set single values.
   virtual bool isOpen() const { return true; }
 
+  /// Whether keys can be removed.
+  virtual bool canClear() const { return isOpen(); }
+
+  /// Whether a key can have an empty value.
+  virtual bool takesEmpty() const { return true; }
+
+  /// What a user may want to know of the keys; empty for nothing.
+  virtual QString hint() const { return {}; }
+
   virtual void set(const QString& key, const QString& value) = 0;
   virtual void add(const QString&, const QString&) {}
   virtual void remove(const QString&, const QString&) {}
@@ -52,6 +61,24 @@ class ORVUI_EXPORT NodeMetadata final : public MetadataTarget {
 
   orvlib::NodeRef node_;
   Kind kind_;
+};
+
+/// The metadata of a port: one value for a key.
+class ORVUI_EXPORT PortMetadata final : public MetadataTarget {
+ public:
+  explicit PortMetadata(orvlib::PortRef port) : port_(std::move(port)) {}
+
+  const orvlib::Properties& metadata() const override { return port_->metadata(); }
+  bool isEditable() const override;
+  bool isOpen() const override { return false; }
+  bool canClear() const override { return true; }
+  bool takesEmpty() const override { return false; }
+  QString hint() const override;
+  void set(const QString& key, const QString& value) override;
+  void clear(const QString& key) override { set(key, QString()); }
+
+ private:
+  orvlib::PortRef port_;
 };
 
 /// The metadata of the watch point of a port, which values can be set of.

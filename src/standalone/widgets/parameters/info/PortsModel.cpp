@@ -3,8 +3,11 @@
 #include <QColor>
 #include <algorithm>
 
-#include "standalone/graph/model/CompoundObject.h"
+#include "standalone/graph/model/WatchPointObject.h"
 #include "standalone/graph/texts/PropertiesText.h"
+#include "standalone/graph/types/Components.h"
+#include "standalone/graph/types/ValueText.h"
+#include "standalone/widgets/parameters/NumberFormat.h"
 #include "standalone/widgets/parameters/PortEdits.h"
 #include "standalone/widgets/parameters/RowState.h"
 #include "standalone/widgets/parameters/RowStyle.h"
@@ -25,18 +28,35 @@ PortObject& watchedFace(PortObject& port) {
   return isOuterOutput && port.twin() ? *port.twin() : port;
 }
 
-QString valueText(const PortObject& port) {
-  if (port.isInput() && isConnected(port)) {
-    const RowState state =
-        readState({{}, {}, RowKind::Text, {PortRef(const_cast<PortObject*>(&port))}});
-    QStringList names;
-    for (const PortRef& source : state.sources) names.append(sourceName(*source));
-    return QString(QChar(0x2190)) + " " + names.join(", ");
+QString sourcesText(const PortObject& port) {
+  const RowState state =
+      readState({{}, {}, RowKind::Text, {PortRef(const_cast<PortObject*>(&port))}});
+  QStringList names;
+  for (const PortRef& source : state.sources) names.append(sourceName(*source));
+  return QString(QChar(0x2190)) + " " + names.join(", ");
+}
+
+/// Of a long array only the beginning is printed.
+QString printed(const orvlib::Value& value) {
+  constexpr std::size_t kMostTexts = 16;
+  const std::size_t count = orvlib::componentCount(value);
+  const bool isWhole = count <= kMostTexts;
+  QStringList texts;
+  for (const std::string& text :
+       orvlib::printValue(isWhole ? value : orvlib::componentsOf(value, 0, kMostTexts))) {
+    NumberFormat format;
+    format.kind = orvlib::scalarKindOf(value);
+    texts.append(format.shortened(toText(text)));
   }
-  constexpr int kMostTexts = 16;
-  const QStringList texts = valueTexts(port);
-  const QString shown = texts.mid(0, kMostTexts).join(", ");
-  return texts.size() > kMostTexts ? shown + QChar(0x2026) : shown;
+  return texts.join(", ") + (isWhole ? QString() : QString(QChar(0x2026)));
+}
+
+/// Of what is computed, what was recorded last.
+QString valueText(PortObject& port) {
+  if (port.isInput() && isConnected(port)) return sourcesText(port);
+  const orvlib::WatchPointObject* watch = watchedFace(port).watchPoint();
+  if (watch && !watch->records().empty()) return printed(watch->records().back().value);
+  return port.isSettable() ? printed(port.unconnectedValue()) : QString();
 }
 
 }  // namespace
@@ -85,7 +105,11 @@ int PortsModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(kColumns);
 }
 
-QString PortsModel::text(const PortObject& port, int column) const {
+PortRef PortsModel::port(int line) const {
+  return line >= 0 && line < rowCount() ? ports_[static_cast<std::size_t>(line)] : PortRef();
+}
+
+QString PortsModel::text(PortObject& port, int column) const {
   switch (column) {
     case kName:
       return toText(port.name());
@@ -99,7 +123,8 @@ QString PortsModel::text(const PortObject& port, int column) const {
 }
 
 QString PortsModel::tip(const PortObject& port) const {
-  QStringList lines{(port.isInput() ? "Input " : "Output ") + toText(port.name())};
+  QStringList lines{(port.isInput() ? "Input " : "Output ") + toText(port.name()) + "  (" +
+                    toText(port.valueType().name) + ")"};
   const auto* known = port.description();
   if (known && !known->description.empty()) lines.append(toText(known->description));
   if (!port.metadata().empty()) lines.append(toText(orvlib::writeProperties(port.metadata())));
@@ -119,29 +144,34 @@ QVariant PortsModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant PortsModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return {};
+  if (orientation != Qt::Horizontal) return {};
+  if (section == kWatch) {
+    if (role == Qt::DecorationRole) return watchSign_;
+    return role == Qt::ToolTipRole ? QVariant("Watched: what the port yields is recorded")
+                                   : QVariant();
+  }
   static const char* const titles[] = {"", "Port", "Type", "Value"};
-  return titles[section];
-}
-
-bool PortsModel::canWatch() const {
-  return node_ && node_->container() && hookOf(node_->core()) &&
-         (!node_->parent() || node_->parent()->isOpenToEdits());
+  return role == Qt::DisplayRole ? QVariant(titles[section]) : QVariant();
 }
 
 Qt::ItemFlags PortsModel::flags(const QModelIndex& index) const {
   const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-  const bool isBox = index.isValid() && index.column() == kWatch;
-  return isBox && canWatch() ? flags | Qt::ItemIsUserCheckable : flags;
+  if (!index.isValid() || index.column() != kWatch) return flags;
+  const bool isOpen = node_ && isInOpenLevel(*node_);
+  return isOpen ? flags | Qt::ItemIsUserCheckable : flags & ~Qt::ItemIsEnabled;
 }
 
 bool PortsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-  if (!index.isValid() || role != Qt::CheckStateRole || !canWatch()) return false;
+  const bool fits = index.isValid() && role == Qt::CheckStateRole;
+  if (!fits || !node_ || !isInOpenLevel(*node_)) return false;
   PortObject& port = watchedFace(*ports_[static_cast<std::size_t>(index.row())]);
   const bool wanted = value.toInt() == Qt::Checked;
   if (wanted == (port.watchPoint() != nullptr)) return false;
   const auto edit = wanted ? CommandHook::kCreateWatchPoint : CommandHook::kRemoveWatchPoint;
   hookOf(node_->core())->editWatchPoint(edit, CommandHook::PortHandle(&port), {}, {});
+  if (wanted != (port.watchPoint() != nullptr) && refused) {
+    refused(QString("The graph refused to watch %1").arg(toText(port.name())));
+  }
   if (edited) edited();
   return true;
 }

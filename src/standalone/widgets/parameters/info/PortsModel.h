@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QPixmap>
 #include <functional>
 
 #include "platform/orvUI_1_0/OrvUiApi.h"
@@ -25,8 +26,17 @@ class ORVUI_EXPORT PortsModel final : public QAbstractTableModel {
   /// The ports with watch points, those of inner faces of a compound's outputs included.
   std::vector<orvlib::PortRef> watchedPorts() const;
 
+  /// The port of a line; null when there is none.
+  orvlib::PortRef port(int line) const;
+
+  /// Heads the column of the boxes.
+  void setWatchSign(const QPixmap& sign) { watchSign_ = sign; }
+
   /// An edit has been made, which the graph may have refused.
   std::function<void()> edited;
+
+  /// Called with the reason why what a user did had no effect.
+  std::function<void(const QString&)> refused;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -37,10 +47,10 @@ class ORVUI_EXPORT PortsModel final : public QAbstractTableModel {
 
  private:
   std::vector<orvlib::PortRef> read() const;
-  QString text(const orvlib::PortObject& port, int column) const;
+  QString text(orvlib::PortObject& port, int column) const;
   QString tip(const orvlib::PortObject& port) const;
-  bool canWatch() const;
 
+  QPixmap watchSign_;
   orvlib::NodeRef node_;
   std::vector<orvlib::PortRef> ports_;
 };

@@ -34,6 +34,9 @@ Records readRecords(const orvlib::PortObject& port) {
   StringArray values;
   if (!watch || !watch->getRecordedValues("value", values)) return records;
   if (hasCurves(port.valueType())) records.curves.resize(port.valueType().componentCount());
+  if (!records.curves.empty()) {
+    for (const std::string& name : port.valueType().components) records.names.append(toText(name));
+  }
   for (const char* value : values) {
     const auto texts = orvlib::readList(value).value_or(std::vector<std::string>());
     for (std::size_t i = 0; i < records.curves.size(); ++i) {

@@ -17,6 +17,9 @@ struct Records {
   /// For single numbers and vectors of at most four: a curve for each component, with a number for
   /// each record. Else empty.
   std::vector<std::vector<double>> curves;
+
+  /// The names of several curves; empty for a single one.
+  QStringList names;
 };
 
 /// Of the port's watch point; nothing when it has none.

@@ -41,43 +41,81 @@ WatchView::WatchView(orvlib::PortRef port, QWidget* parent)
       plot_(new Plot(this)),
       list_(new QListView(this)),
       model_(new QStringListModel(this)),
-      metadata_(new MetadataTable(this)) {
+      metadata_(new MetadataTable(this)),
+      adder_(new QToolButton(this)) {
   const int gap = style::gap(*this);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, gap);
+  layout->setContentsMargins(gap, 0, 0, gap);
   layout->setSpacing(gap);
+  makeHead();
+  makeBody();
+  metadata_->showTarget(std::make_unique<WatchMetadata>(port_));
+  metadata_->edited = [this] {
+    if (edited) edited();
+  };
+  metadata_->refused = [this](const QString& reason) {
+    if (refused) refused(reason);
+  };
+  refresh();
+}
+
+void WatchView::makeHead() {
   auto* top = new QHBoxLayout;
   auto* remover = new QToolButton(this);
   remover->setText(QString(QChar(0x2212)));
   remover->setToolTip("Remove the watch point");
   remover->setObjectName("remove watch point");
-  remover->setAutoRaise(true);
   connect(remover, &QToolButton::clicked, this, [this] { remove(); });
+  adder_->setText("+");
+  adder_->setToolTip("Add metadata to the watch point");
+  adder_->setObjectName("add watch metadata");
+  connect(adder_, &QToolButton::clicked, metadata_, &QWidget::show);
+  for (QToolButton* button : {adder_, remover}) button->setAutoRaise(true);
+  title_->setWordWrap(true);
   title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  top->addWidget(title_, 1);
+  top->addWidget(adder_);
+  top->addWidget(remover);
+  static_cast<QVBoxLayout*>(layout())->addLayout(top);
+}
+
+void WatchView::makeBody() {
   latest_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   latest_->setTextFormat(Qt::PlainText);
-  top->addWidget(title_, 1);
-  top->addWidget(remover);
-  layout->addLayout(top);
-  for (QWidget* part : {static_cast<QWidget*>(latest_), static_cast<QWidget*>(plot_),
-                        static_cast<QWidget*>(list_), static_cast<QWidget*>(metadata_)}) {
-    layout->addWidget(part);
-  }
   list_->setModel(model_);
   list_->setUniformItemSizes(true);
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list_->setFixedHeight(kListLines * style::lineHeight(*this));
-  metadata_->showTarget(std::make_unique<WatchMetadata>(port_));
-  metadata_->edited = [this] {
-    if (edited) edited();
-  };
-  refresh();
+  for (QWidget* part : {static_cast<QWidget*>(latest_), static_cast<QWidget*>(plot_),
+                        static_cast<QWidget*>(list_), static_cast<QWidget*>(metadata_)}) {
+    layout()->addWidget(part);
+  }
+  metadata_->hide();
+}
+
+WatchView::Shown WatchView::recordsNow() const {
+  const orvlib::WatchPointObject* watch = port_->watchPoint();
+  if (!watch || watch->records().empty()) return {};
+  return {watch->records().size(), watch->records().back().evaluation};
+}
+
+void WatchView::followRecords() {
+  if (recordsNow() != shown_) showRecords();
 }
 
 void WatchView::refresh() {
   const orvlib::WatchPointObject* watch = port_->watchPoint();
   if (!watch) return;
   title_->setText(titleOf(*port_, *watch));
+  showRecords();
+  if (!watch->metadata().empty()) metadata_->show();
+  const orvlib::NodeObject* node = port_->node();
+  adder_->setEnabled(node && isInOpenLevel(*node));
+  metadata_->refresh();
+}
+
+void WatchView::showRecords() {
+  shown_ = recordsNow();
   Records records = readRecords(*port_);
   const QString latest = records.texts.isEmpty() ? QString() : records.texts.back();
   latest_->setText(records.texts.isEmpty()
@@ -88,20 +126,20 @@ void WatchView::refresh() {
   plot_->setVisible(plots);
   list_->setVisible(!plots);
   if (plots) {
-    plot_->showCurves(std::move(records.curves));
+    plot_->showCurves(std::move(records.curves), records.names);
   } else if (model_->stringList() != records.texts) {
     model_->setStringList(records.texts);
     list_->scrollToBottom();
   }
-  metadata_->refresh();
 }
 
 void WatchView::remove() {
   const orvlib::NodeObject* node = port_->node();
-  CommandHook* hook = node && node->container() ? hookOf(node->core()) : nullptr;
-  if (!hook) return;
-  hook->editWatchPoint(CommandHook::kRemoveWatchPoint, CommandHook::PortHandle(port_.get()), {},
+  if (!node || !isInOpenLevel(*node)) return;
+  hookOf(node->core())
+      ->editWatchPoint(CommandHook::kRemoveWatchPoint, CommandHook::PortHandle(port_.get()), {},
                        {});
+  if (port_->watchPoint() && refused) refused("The graph refused to remove the watch point");
   if (edited) edited();
 }
 

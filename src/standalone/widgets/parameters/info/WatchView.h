@@ -9,6 +9,8 @@
 class QLabel;
 class QListView;
 class QStringListModel;
+class QToolButton;
+class QVBoxLayout;
 
 namespace orvuilib {
 
@@ -26,11 +28,24 @@ class ORVUI_EXPORT WatchView final : public QWidget {
   /// Shows what the graph has now.
   void refresh();
 
+  /// Shows what came to the records since it was last asked.
+  void followRecords();
+
   /// An edit has been made, which the graph may have refused.
   std::function<void()> edited;
 
+  /// Called with the reason why what a user did had no effect.
+  std::function<void(const QString&)> refused;
+
  private:
+  void makeHead();
+  void makeBody();
   void remove();
+  void showRecords();
+
+  /// Which records are shown: how many, and of which evaluation the last is.
+  using Shown = std::pair<std::size_t, std::uint64_t>;
+  Shown recordsNow() const;
 
   orvlib::PortRef port_;
   QLabel* title_;
@@ -39,6 +54,8 @@ class ORVUI_EXPORT WatchView final : public QWidget {
   QListView* list_;
   QStringListModel* model_;
   MetadataTable* metadata_;
+  QToolButton* adder_;
+  Shown shown_;
 };
 
 }  // namespace orvuilib

@@ -1,62 +1,111 @@
 #include "standalone/widgets/parameters/rows/ArrayModel.h"
 
+#include <QColor>
+#include <algorithm>
+
 #include "standalone/graph/types/Components.h"
 #include "standalone/graph/types/ValueText.h"
+#include "standalone/widgets/colour/ManagedColour.h"
+#include "standalone/widgets/parameters/RowState.h"
+#include "standalone/widgets/parameters/rows/colourTexts.h"
 
 namespace orvuilib {
 
+using orvlib::PortRef;
 using orvlib::ScalarKind;
 using orvlib::Value;
-using orvlib::ValueType;
 
 namespace {
 
-QString zeroText(ScalarKind kind) {
-  if (kind == ScalarKind::String) return {};
-  return kind == ScalarKind::Boolean ? "false" : "0";
+QStringList namesOf(const orvlib::ValueType& type) {
+  QStringList names;
+  for (const std::string& name : type.element->components) names.append(toText(name));
+  return names.isEmpty() ? QStringList("value") : names;
+}
+
+int longest(const std::vector<PortRef>& ports) {
+  std::size_t most = 0;
+  for (const PortRef& port : ports) most = std::max(most, elementCount(*port));
+  return static_cast<int>(most);
+}
+
+/// Nothing past the end.
+std::optional<Value> componentAt(const PortRef& port, std::size_t place) {
+  const Value& all = port->unconnectedValue();
+  if (place >= orvlib::componentCount(all)) return std::nullopt;
+  return orvlib::componentsOf(all, place, 1);
 }
 
 }  // namespace
 
 /// The views keep their places when there are as many elements as before.
-void ArrayModel::show(const ValueType& type, const Value& value, int decimals) {
-  const bool sameShape = type.componentCount() == width() && type.scalar == type_.scalar &&
-                         orvlib::componentCount(value) == orvlib::componentCount(value_);
-  if (sameShape && orvlib::sameValue(value, value_) && decimals == format_.decimals) return;
+void ArrayModel::show(const ParameterRow& row, int decimals) {
+  const QStringList names = namesOf(row.type());
+  const int elements = longest(row.ports);
+  const bool swatches = isColour(*row.type().element);
+  const bool sameShape = elements == elements_ && names == names_ && swatches == swatches_;
   if (!sameShape) beginResetModel();
-  type_ = type;
-  value_ = value;
-  format_.kind = type.scalar;
+  ports_ = row.ports;
+  format_.kind = row.type().scalar;
   format_.decimals = decimals;
-  if (sameShape) {
-    emit dataChanged(index(0, 0), index(elements() - 1, columnCount() - 1));
-  } else {
+  names_ = names;
+  elements_ = elements;
+  swatches_ = swatches;
+  if (!sameShape) {
     endResetModel();
+  } else if (elements_ > 0) {
+    emit dataChanged(index(0, 0), index(elements_ - 1, columnCount() - 1));
   }
 }
 
-int ArrayModel::elements() const {
-  return static_cast<int>(orvlib::componentCount(value_) / width());
-}
-
 int ArrayModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : elements();
+  return parent.isValid() ? 0 : elements_;
 }
 
 int ArrayModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(width());
+  return parent.isValid() ? 0 : static_cast<int>(names_.size()) + (swatches_ ? 1 : 0);
 }
 
-QString ArrayModel::text(int row, int column) const {
-  const std::size_t at = static_cast<std::size_t>(row) * width() + static_cast<std::size_t>(column);
-  return QString::fromStdString(orvlib::printValue(orvlib::componentsOf(value_, at, 1)).front());
+int ArrayModel::componentAt(const QModelIndex& index) const {
+  const int column = index.column() - (swatches_ ? 1 : 0);
+  return index.row() * static_cast<int>(names_.size()) + column;
+}
+
+std::optional<QString> ArrayModel::text(int component) const {
+  if (ports_.empty()) return std::nullopt;
+  const auto place = static_cast<std::size_t>(component);
+  const auto first = orvuilib::componentAt(ports_.front(), place);
+  const bool differs = std::ranges::any_of(ports_, [&](const PortRef& port) {
+    const auto other = orvuilib::componentAt(port, place);
+    return !first || !other || !orvlib::sameValue(*first, *other);
+  });
+  if (differs) return std::nullopt;
+  return toText(orvlib::printValue(*first).front());
+}
+
+QStringList ArrayModel::elementTexts(int element) const {
+  QStringList texts;
+  const int width = static_cast<int>(names_.size());
+  for (int i = 0; i < width; ++i) texts.append(text(element * width + i).value_or(QString()));
+  return texts;
+}
+
+QVariant ArrayModel::colourData(int element, int role) const {
+  if (role == Qt::ToolTipRole && editable_) return "Double-click or press Space to edit the colour";
+  if (role != Qt::DecorationRole) return {};
+  const QStringList texts = elementTexts(element);
+  return texts.contains(QString()) ? QVariant() : QVariant(toScreen(colourOf(texts)));
 }
 
 QVariant ArrayModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  if (role == Qt::DisplayRole) return format_.shortened(text(index.row(), index.column()));
-  if (role == Qt::EditRole) return text(index.row(), index.column());
-  if (role == Qt::TextAlignmentRole && type_.scalar != ScalarKind::String) {
+  if (isSwatch(index)) return colourData(index.row(), role);
+  if (role == Qt::DisplayRole || role == Qt::EditRole) {
+    const auto full = text(componentAt(index));
+    if (!full) return role == Qt::EditRole ? QString() : QString(QChar(0x2014));
+    return role == Qt::EditRole ? *full : format_.shortened(*full);
+  }
+  if (role == Qt::TextAlignmentRole && format_.kind != ScalarKind::String) {
     return QVariant(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};
@@ -65,55 +114,31 @@ QVariant ArrayModel::data(const QModelIndex& index, int role) const {
 QVariant ArrayModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole) return {};
   if (orientation == Qt::Vertical) return section;
-  const auto& names = type_.element ? type_.element->components : type_.components;
-  const auto at = static_cast<std::size_t>(section);
-  return at < names.size() ? QString::fromStdString(names[at]) : QString("value");
+  return names_.value(section - (swatches_ ? 1 : 0));
 }
 
 Qt::ItemFlags ArrayModel::flags(const QModelIndex& index) const {
   const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-  return editable_ ? flags | Qt::ItemIsEditable : flags;
-}
-
-QStringList ArrayModel::allTexts() const {
-  QStringList texts;
-  for (const std::string& text : orvlib::printValue(value_)) {
-    texts.append(QString::fromStdString(text));
-  }
-  return texts;
+  return editable_ && !isSwatch(index) ? flags | Qt::ItemIsEditable : flags;
 }
 
 bool ArrayModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-  if (!index.isValid() || role != Qt::EditRole || !editable_) return false;
+  if (!index.isValid() || role != Qt::EditRole || !editable_ || isSwatch(index)) return false;
+  const int component = componentAt(index);
+  const auto former = text(component);
+  const QString typed = value.toString();
+  // Arrays that differ are edited from an empty field, which is left as it was.
+  if (typed == former.value_or(QString())) return false;
   QString reason;
-  const QString entered = value.toString();
   const auto read =
-      type_.scalar == ScalarKind::String ? std::optional(entered) : format_.read(entered, reason);
+      format_.kind == ScalarKind::String ? std::optional(typed) : format_.read(typed, reason);
   if (!read) {
     if (refused) refused(reason);
     return false;
   }
-  if (*read == text(index.row(), index.column())) return false;
-  QStringList texts = allTexts();
-  texts[index.row() * static_cast<int>(width()) + index.column()] = *read;
-  if (asked) asked(texts);
+  if (read == former) return false;
+  if (entered) entered(component, *read);
   return true;
-}
-
-void ArrayModel::insertAfter(int element) {
-  if (!asked || element < -1 || element >= elements()) return;
-  QStringList texts = allTexts();
-  const qsizetype at = (element + 1) * static_cast<qsizetype>(width());
-  for (std::size_t i = 0; i < width(); ++i) texts.insert(at, zeroText(type_.scalar));
-  asked(texts);
-}
-
-void ArrayModel::remove(int element) {
-  if (!asked || element < 0 || element >= elements()) return;
-  QStringList texts = allTexts();
-  const auto first = texts.begin() + element * static_cast<qsizetype>(width());
-  texts.erase(first, first + static_cast<qsizetype>(width()));
-  asked(texts);
 }
 
 }  // namespace orvuilib

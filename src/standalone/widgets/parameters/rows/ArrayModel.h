@@ -4,35 +4,34 @@
 #include <functional>
 
 #include "platform/orvUI_1_0/OrvUiApi.h"
-#include "standalone/graph/types/ValueType.h"
 #include "standalone/widgets/parameters/NumberFormat.h"
+#include "standalone/widgets/parameters/ParameterRow.h"
 
 namespace orvuilib {
 
-/// The elements of an array: one a line, with a column for each of its components. It changes
-/// nothing: what a user edits is asked for.
+/// The elements of the arrays of a row: one a line, with a column for each of its components, and
+/// for colours a swatch ahead of them. It has as many lines as the longest array; what differs
+/// between the arrays is shown as such. It reads what is asked for alone, and changes nothing.
 class ORVUI_EXPORT ArrayModel final : public QAbstractTableModel {
  public:
   explicit ArrayModel(QObject* parent) : QAbstractTableModel(parent) {}
 
-  /// The type is an array's, and the value one of it.
-  void show(const orvlib::ValueType& type, const orvlib::Value& value, int decimals);
+  /// Shows what the graph has now. The row is one of arrays.
+  void show(const ParameterRow& row, int decimals);
 
   /// Whether cells can be edited.
   void setEditable(bool editable) { editable_ = editable; }
 
-  /// Called with the whole array as it shall become, one text a component.
-  std::function<void(const QStringList&)> asked;
+  /// Called with a component, counted through all elements, and the text that a user entered.
+  std::function<void(int, const QString&)> entered;
 
   /// Called with the reason why what was entered is no value.
   std::function<void(const QString&)> refused;
 
-  /// Ask for an element more, of zeros or empty texts, after that one; and for one less. Nothing
-  /// happens for an element that is not there.
-  void insertAfter(int element);
-  void remove(int element);
+  bool hasSwatches() const { return swatches_; }
 
-  int elements() const;
+  /// One text a component; an empty one where the arrays differ.
+  QStringList elementTexts(int element) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -42,13 +41,18 @@ class ORVUI_EXPORT ArrayModel final : public QAbstractTableModel {
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
  private:
-  std::size_t width() const { return type_.componentCount(); }
-  QString text(int row, int column) const;
-  QStringList allTexts() const;
+  int componentAt(const QModelIndex& index) const;
+  bool isSwatch(const QModelIndex& index) const { return swatches_ && index.column() == 0; }
 
-  orvlib::ValueType type_;
-  orvlib::Value value_;
+  /// Nothing where the arrays differ.
+  std::optional<QString> text(int component) const;
+  QVariant colourData(int element, int role) const;
+
+  std::vector<orvlib::PortRef> ports_;
   NumberFormat format_;
+  QStringList names_;
+  int elements_ = 0;
+  bool swatches_ = false;
   bool editable_ = false;
 };
 

@@ -1,11 +1,13 @@
 #include "standalone/widgets/parameters/rows/BooleanRow.h"
 
+#include "standalone/widgets/parameters/FieldStyle.h"
 #include "standalone/widgets/parameters/rows/CheckState.h"
 
 namespace orvuilib {
 
 BooleanRow::BooleanRow(const ParameterRow& row, QWidget* parent)
     : RowWidget(row, parent), box_(new QCheckBox(editor())) {
+  FieldStyle::applyTo(*box_);
   connect(box_, &QCheckBox::clicked, this, [this] { set({takeClick(*box_) ? "true" : "false"}); });
 }
 

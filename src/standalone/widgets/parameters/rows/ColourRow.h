@@ -1,15 +1,11 @@
 #pragma once
 
-#include <QPointer>
-
 #include "platform/orvUI_1_0/OrvUiApi.h"
 #include "standalone/widgets/parameters/fields/ColourButton.h"
 #include "standalone/widgets/parameters/rows/ComponentFields.h"
 #include "standalone/widgets/parameters/rows/RowWidget.h"
 
 namespace orvuilib {
-
-class ColourDialog;
 
 /// A swatch that opens a picker, and a field for each component.
 class ORVUI_EXPORT ColourRow final : public RowWidget {
@@ -24,13 +20,10 @@ class ORVUI_EXPORT ColourRow final : public RowWidget {
   void placeFields(const QRect& place) override;
 
  private:
-  void openPicker();
-  orvUI_v1::HIGColor colour() const;
-  QStringList texts(const orvUI_v1::HIGColor& colour) const;
+  void pick();
 
   ColourButton* swatch_;
   ComponentFields fields_;
-  QPointer<ColourDialog> picker_;
 };
 
 }  // namespace orvuilib

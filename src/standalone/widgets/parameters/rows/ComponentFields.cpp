@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 
+#include "standalone/widgets/parameters/FieldStyle.h"
 #include "standalone/widgets/parameters/fields/NumberField.h"
 #include "standalone/widgets/parameters/fields/TextField.h"
 #include "standalone/widgets/parameters/rows/CheckState.h"
@@ -49,6 +50,7 @@ QWidget* ComponentFields::makeText(int index, QWidget* parent) {
 
 QWidget* ComponentFields::makeCheck(int index, QWidget* parent) {
   auto* box = new QCheckBox(parent);
+  FieldStyle::applyTo(*box);
   QObject::connect(box, &QCheckBox::clicked, box, [this, index, box] {
     edits_.entered(index, takeClick(*box) ? "true" : "false");
   });

@@ -11,7 +11,7 @@ ComponentsRow::ComponentsRow(const ParameterRow& row, QWidget* parent)
     : RowWidget(row, parent),
       fields_(row.type(), formatOf(row.first(), ParameterPreferences::decimals()),
               {[this](int index, const QString& text) { setComponent(index, text); },
-               [this](int index, const QString& text) { edits().showComponent(index, text); },
+               [this](int index, const QString& text) { show(toPart(index, {text})); },
                [this] { endLive(); }, [this] { cancelLive(); }},
               editor()) {}
 

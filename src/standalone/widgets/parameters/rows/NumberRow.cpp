@@ -15,7 +15,7 @@ NumberRow::NumberRow(const ParameterRow& row, QWidget* parent)
       field_(new NumberField(formatOf(row.first(), ParameterPreferences::decimals()), editor())),
       slider_(new RangeSlider(editor())) {
   field_->entered = [this](const QString& text) { set({text}); };
-  field_->stepped = [this](const QString& text) { edits().show({text}); };
+  field_->stepped = [this](const QString& text) { show(toValue({text})); };
   field_->stepsEnded = [this] { endLive(); };
   field_->stepsCancelled = [this] { cancelLive(); };
   connectSlider();
@@ -25,7 +25,7 @@ void NumberRow::connectSlider() {
   slider_->moved = [this](double number) {
     const QString text = field_->format().print(number);
     field_->showValue(text);
-    edits().show({text});
+    show(toValue({text}));
   };
   slider_->ended = [this] { endLive(); };
   slider_->cancelled = [this] { cancelLive(); };
@@ -39,6 +39,8 @@ void NumberRow::showState(const RowState& state) {
   if (!slider_->isDragged()) {
     const NumberRange range = softRange(row(), number);
     slider_->setRange(range.first, range.second);
+    const bool isInteger = row().type().scalar == orvlib::ScalarKind::Integer;
+    slider_->setStep(std::max(isInteger ? 1.0 : 0.0, (range.second - range.first) / 100));
   }
   if (state.isMixed(0)) {
     field_->showMixed();

@@ -2,7 +2,9 @@
 
 #include <QPainter>
 #include <QToolButton>
+#include <utility>
 
+#include "standalone/widgets/colour/ColourDialog.h"
 #include "standalone/widgets/parameters/RowStyle.h"
 #include "standalone/widgets/parameters/fields/SourceLink.h"
 
@@ -18,11 +20,8 @@ RowWidget::RowWidget(const ParameterRow& row, QWidget* parent)
   reset_->setToolTip("Reset to the default");
   reset_->setObjectName("reset");
   reset_->setAutoRaise(true);
-  reset_->setFocusPolicy(Qt::NoFocus);
-  connect(reset_, &QToolButton::clicked, this, [this] {
-    edits_.reset();
-    tellEdited();
-  });
+  reset_->setFocusPolicy(Qt::TabFocus);
+  connect(reset_, &QToolButton::clicked, this, [this] { tell(edits_.reset()); });
   setToolTip(describe());
 }
 
@@ -39,10 +38,12 @@ void RowWidget::refresh() {
   const RowState& now = state();
   const bool connected = now.isConnected(row());
   editor_->setVisible(!connected);
-  editor_->setEnabled(now.editable);
+  editor_->setEnabled(now.editable || isForReaders());
   link_->setVisible(connected);
   if (connected) link_->showSources(now.sources);
   reset_->setVisible(now.own && now.editable && !connected);
+  const bool keepsPicker = now.editable && !connected;
+  if (picker_ && !keepsPicker) std::exchange(picker_, nullptr)->reject();
   showState(now);
   layOut();
   update();
@@ -55,28 +56,40 @@ QString RowWidget::describe() const {
   return text;
 }
 
-void RowWidget::tellEdited() {
+void RowWidget::refuse(const QString& reason) {
+  if (refused) refused(reason);
+}
+
+void RowWidget::tell(bool done) {
+  if (!done) refuse(QString("The graph refused the value of %1").arg(row().label));
   if (edited) edited();
 }
 
-void RowWidget::set(const QStringList& texts) {
-  edits_.set(texts);
-  tellEdited();
-}
+void RowWidget::change(const RowEdits::Change& change) { tell(edits_.change(change)); }
 
-void RowWidget::setComponent(int index, const QString& text) {
-  edits_.setComponent(index, text);
-  tellEdited();
-}
-
-void RowWidget::endLive() {
-  edits_.end();
-  tellEdited();
-}
+void RowWidget::endLive() { tell(edits_.end()); }
 
 void RowWidget::cancelLive() {
   edits_.cancel();
-  tellEdited();
+  tell(true);
+}
+
+/// While it is open nothing else is edited: what is picked is one step.
+void RowWidget::openPicker(const orvUI_v1::HIGColor& colour,
+                           std::function<RowEdits::Change(const orvUI_v1::HIGColor&)> shown) {
+  if (picker_) return;
+  picker_ = new ColourDialog(colour, this);
+  picker_->setAttribute(Qt::WA_DeleteOnClose);
+  picker_->setObjectName("picker");
+  picker_->setModal(true);
+  connect(picker_, &ColourDialog::changing, this,
+          [this, shown = std::move(shown)](const auto& chosen) { show(shown(chosen)); });
+  connect(picker_, &ColourDialog::chosen, this, [this] { endLive(); });
+  connect(picker_, &ColourDialog::cancelled, this, [this] {
+    cancelLive();
+    refresh();
+  });
+  picker_->show();
 }
 
 void RowWidget::resizeEvent(QResizeEvent* event) {
@@ -108,7 +121,7 @@ void RowWidget::paintEvent(QPaintEvent*) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(style::ofType(row().type()));
   painter.drawEllipse(QPointF(gap * 2.5, line / 2.0), dot, dot);
-  const QRect place(gap * 4 + gap / 2, 0, style::labelWidth(width()) - 5 * gap, line);
+  const QRect place(gap * 4 + gap / 2, 0, style::labelWidth(width()) - 5 * gap, line - 1);
   const std::size_t some = state().connected;
   QString label = row().label;
   if (some > 0 && some < row().ports.size()) label += QString("  (%1 connected)").arg(some);

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
-#include <memory>
 
+#include "platform/orvUI_1_0/HIGColor.h"
 #include "platform/orvUI_1_0/OrvUiApi.h"
 #include "standalone/widgets/parameters/RowEdits.h"
 
@@ -10,6 +11,7 @@ class QToolButton;
 
 namespace orvuilib {
 
+class ColourDialog;
 class SourceLink;
 
 /// One row: its name, what edits its value, and a button that gives it its default back. While its
@@ -43,10 +45,11 @@ class ORVUI_EXPORT RowWidget : public QWidget {
   /// An edit has been made, which the graph may have refused.
   std::function<void()> edited;
 
+  /// Called with the reason why what a user did had no effect.
+  std::function<void(const QString&)> refused;
+
  protected:
   RowWidget(const ParameterRow& row, QWidget* parent);
-
-  RowEdits& edits() { return edits_; }
   const RowState& state() const { return edits_.state(); }
 
   /// What the fields are made on. It is hidden while the row is connected.
@@ -55,27 +58,39 @@ class ORVUI_EXPORT RowWidget : public QWidget {
   virtual void showState(const RowState& state) = 0;
   virtual void placeFields(const QRect& place) = 0;
 
+  /// Whether there is something to use also where nothing can be edited.
+  virtual bool isForReaders() const { return false; }
+
   /// Whether the editor stands below the name, on the whole width.
   virtual bool isWide() const { return false; }
 
   // Edits that are told of.
-  void set(const QStringList& texts);
-  void setComponent(int index, const QString& text);
+  void change(const RowEdits::Change& change);
+  void set(const QStringList& texts) { change(toValue(texts)); }
+  void setComponent(int index, const QString& text) { change(toPart(index, {text})); }
+  void show(const RowEdits::Change& change) { edits_.show(change); }
   void endLive();
   void cancelLive();
+  void refuse(const QString& reason);
+
+  /// Opens a picker, unless one is open. `shown` is what becomes of a port while the user mixes; at
+  /// the end it is one step. The picker goes when the row can no longer be edited.
+  void openPicker(const orvUI_v1::HIGColor& colour,
+                  std::function<RowEdits::Change(const orvUI_v1::HIGColor&)> shown);
 
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void layOut();
-  void tellEdited();
+  void tell(bool done);
   QString describe() const;
 
   RowEdits edits_;
   QWidget* editor_;
   SourceLink* link_;
   QToolButton* reset_;
+  QPointer<ColourDialog> picker_;
 };
 
 }  // namespace orvuilib

@@ -7,6 +7,7 @@
 #include "standalone/widgets/parameters/rows/ColourRow.h"
 #include "standalone/widgets/parameters/rows/ComponentsRow.h"
 #include "standalone/widgets/parameters/rows/NumberRow.h"
+#include "standalone/widgets/parameters/rows/ParagraphRow.h"
 #include "standalone/widgets/parameters/rows/TextRow.h"
 
 namespace orvuilib {
@@ -25,6 +26,8 @@ RowWidget* make(const ParameterRow& row, QWidget* parent) {
       return new ColourRow(row, parent);
     case RowKind::Text:
       return new TextRow(row, parent);
+    case RowKind::Paragraph:
+      return new ParagraphRow(row, parent);
     case RowKind::Choice:
       return new ChoiceRow(row, parent);
     case RowKind::Array:
@@ -44,6 +47,8 @@ int linesOf(const ParameterRow& row, const QWidget& styled, int width, bool open
       return lines(ColourRow::columns(row, styled, width));
     case RowKind::Matrix:
       return 1 + lines(ComponentsRow::columns(row, styled, width));
+    case RowKind::Paragraph:
+      return textLines(row.first());
     case RowKind::Array:
       return open ? ArrayRow::kOpenLines : 1;
     default:

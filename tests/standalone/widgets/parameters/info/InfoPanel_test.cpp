@@ -1,12 +1,17 @@
 #include "standalone/widgets/parameters/info/InfoPanel.h"
 
+#include <QHeaderView>
 #include <QLabel>
+#include <QListView>
+#include <QScrollBar>
 #include <QTableView>
 #include <QToolButton>
 
+#include "standalone/widgets/parameters/info/MetadataTable.h"
 #include "standalone/widgets/parameters/info/Plot.h"
 #include "standalone/widgets/parameters/info/PortsModel.h"
 #include "standalone/widgets/parameters/info/WatchView.h"
+#include "tests/standalone/widgets/hooks/IdleHooks.h"
 #include "tests/standalone/widgets/parameters/ParameterTesting.h"
 
 namespace orvuilib {
@@ -14,6 +19,7 @@ namespace {
 
 using orvUI_v1::ParameterEditorMode;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class InfoPanelTest : public ParameterTest {
  protected:
@@ -98,6 +104,101 @@ TEST_F(InfoPanelTest, AStateIsSwitchedByALine) {
   expectOneStep(before);
 }
 
+TEST_F(InfoPanelTest, OffersEditsOnlyWhereTheyAreAllowed) {
+  host.run("orvCompound g \"/\" -create box -moveNodeIn sum");
+  host.run("orvNode g \"/box/sum\" -setMetaData note kept");
+  select({"/box/sum"});
+  auto* box = editor.findChild<QCheckBox*>("flag f");
+  const QModelIndex cell = table("node metadata")->model()->index(0, 1);
+  const QModelIndex watch = table("ports")->model()->index(2, PortsModel::kWatch);
+  EXPECT_TRUE(box->isEnabled());
+  EXPECT_TRUE(cell.flags() & Qt::ItemIsEditable);
+  EXPECT_TRUE(watch.flags() & Qt::ItemIsUserCheckable);
+  EXPECT_FALSE(editor.findChild<QLabel*>("readOnly")->isVisible());
+  host.run("orvCompound g \"/box\" -setMetaData locked true");
+  settle();
+  host.takeEchoes();
+  EXPECT_FALSE(box->isEnabled());
+  EXPECT_FALSE(cell.flags() & Qt::ItemIsEditable);
+  EXPECT_FALSE(watch.flags() & Qt::ItemIsUserCheckable);
+  EXPECT_EQ(text("readOnly"), "Read-only: /box is locked");
+  clickWatchBox(2);
+  QTest::mouseClick(box, Qt::LeftButton, {}, {8, box->height() / 2});
+  EXPECT_THAT(lines(), IsEmpty());
+}
+
+TEST_F(InfoPanelTest, ALockCanBeTakenOff) {
+  host.run("orvCompound g \"/\" -create box");
+  host.run("orvCompound g \"/box\" -setMetaData locked true");
+  select({"/box"});
+  enterCell(table("compound metadata"), 0, 1, "false");
+  EXPECT_EQ(host.run("orvCompound g \"/box\" -queryMetaDataAsString"), "\"{locked=false}\"");
+}
+
+TEST_F(InfoPanelTest, ARefusedEditIsSaid) {
+  host.run("orvNode g \"/sum\" -setMetaData note kept");
+  settle();
+  IdleCommandHook idle;
+  orvUI_v1::setCommandHook(&idle, nullptr);
+  auto* box = editor.findChild<QCheckBox*>("flag f");
+  QTest::mouseClick(box, Qt::LeftButton, {}, {8, box->height() / 2});
+  EXPECT_EQ(text("notice"), "The graph refused to switch \"Frozen\"");
+  EXPECT_FALSE(box->isChecked());
+  clickWatchBox(2);
+  EXPECT_EQ(text("notice"), "The graph refused to watch result");
+  enterCell(table("node metadata"), 0, 1, "other");
+  EXPECT_EQ(text("notice"), "The graph refused the edit");
+}
+
+TEST_F(InfoPanelTest, MetadataOfAPortAreAddedChangedAndRemoved) {
+  EXPECT_FALSE(table("port metadata")->isVisible());
+  QTableView* ports = table("ports");
+  ports->setFocus();
+  ports->setCurrentIndex(ports->model()->index(0, PortsModel::kName));
+  QTableView* metadataTable = table("port metadata");
+  ASSERT_TRUE(metadataTable->isVisible());
+  const std::string before = stored();
+  enterCell(metadataTable, 0, 0, "max");
+  EXPECT_THAT(lines(), IsEmpty()) << "it waits for a value";
+  enterCell(metadataTable, 0, 1, "10");
+  EXPECT_THAT(lines(),
+              ElementsAre("orvNode \"g\" \"/sum\" -setPortMetaDataValue \"a\" \"max\" \"10\""));
+  expectOneStep(before);
+  enterCell(metadataTable, 0, 1, "20");
+  EXPECT_EQ(host.run("orvNode g \"/sum\" -queryPortMetaDataValue a max"), "\"20\"");
+  metadataTable->setCurrentIndex(metadataTable->model()->index(0, 0));
+  QTest::keyClick(metadataTable, Qt::Key_Delete);
+  settle();
+  EXPECT_EQ(stored(), before);
+}
+
+TEST_F(InfoPanelTest, AKindThatEveryGraphHasIsNamedOnce) {
+  EXPECT_TRUE(editor.findChild<QLabel*>("typeName")->isVisible());
+  host.run("orvCompound g \"/\" -create box");
+  select({"/box"});
+  EXPECT_EQ(text("type"), "Compound");
+  EXPECT_FALSE(editor.findChild<QLabel*>("typeName")->isVisible());
+}
+
+TEST_F(InfoPanelTest, ManyPortsAreNotScrolledInTheirTable) {
+  host.run("orvCompound g \"/\" -create box");
+  std::string line = "orvCompound g \"/box\"";
+  for (int i = 0; i < 60; ++i) line += " -createInputPort p" + std::to_string(i) + " float";
+  host.run(line);
+  select({"/box"});
+  EXPECT_EQ(table("ports")->verticalScrollBar()->maximum(), 0);
+  EXPECT_GT(editor.info()->verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(InfoPanelTest, ValuesHaveTheMostRoom) {
+  editor.resize(260, 620);
+  host.run("orvNode g \"/sum\" -createInputPort aPortOfALongName \"array<color4>\"");
+  settle();
+  const QHeaderView& header = *table("ports")->horizontalHeader();
+  EXPECT_GT(header.sectionSize(PortsModel::kValue), header.sectionSize(PortsModel::kName));
+  EXPECT_GT(header.sectionSize(PortsModel::kName), header.sectionSize(PortsModel::kType));
+}
+
 TEST_F(InfoPanelTest, ListsPortsWithTheirValues) {
   const QAbstractItemModel& ports = *table("ports")->model();
   ASSERT_EQ(ports.rowCount(), 3);
@@ -171,6 +272,100 @@ TEST_F(InfoPanelTest, RecordsAreShownAsTheyCome) {
   for (QLabel* label : watch->findChildren<QLabel*>()) texts.append(label->text());
   EXPECT_TRUE(texts.join("\n").contains("2 recorded, now 7")) << texts.join("\n").toStdString();
   EXPECT_TRUE(watch->findChild<QWidget*>("remove watch point") != nullptr);
+}
+
+/// Whether any pixel of the picture has about the colour.
+bool shows(const QImage& picture, const QColor& colour) {
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      const QColor here = picture.pixelColor(x, y);
+      const int apart = std::abs(here.red() - colour.red()) +
+                        std::abs(here.green() - colour.green()) +
+                        std::abs(here.blue() - colour.blue());
+      if (apart < 45) return true;
+    }
+  }
+  return false;
+}
+
+TEST_F(InfoPanelTest, NumbersAreDrawnWithANameForEachCurve) {
+  add("core::vector::vector3::add", "vec");
+  select({"/vec"});
+  clickWatchBox(2);
+  auto* plot = find<Plot>();
+  ASSERT_NE(plot, nullptr);
+  EXPECT_TRUE(plot->isVisible());
+  const int height = plot->height();
+  EXPECT_EQ(height, plot->sizeHint().height());
+  host.run("orvNode g \"/vec\" -setPortDefaultValues a \"{1,2,3}\"");
+  host.run("orvNode g \"/vec\" -setPortDefaultValues a \"{3,-2,1}\"");
+  settle();
+  const QImage picture = plot->grab().toImage();
+  const QImage names = picture.copy(0, 0, picture.width(), plot->fontMetrics().height());
+  for (std::size_t curve = 0; curve < 3; ++curve) {
+    EXPECT_TRUE(shows(names, plot->colourOf(curve))) << curve;
+    EXPECT_TRUE(shows(picture.copy(0, names.height(), picture.width(), picture.height()),
+                      plot->colourOf(curve)))
+        << curve;
+  }
+}
+
+TEST_F(InfoPanelTest, ASingleCurveHasNoName) {
+  clickWatchBox(2);
+  host.run("orvNode g \"/sum\" -setPortDefaultValues a 4");
+  settle();
+  auto* plot = find<Plot>();
+  EXPECT_EQ(plot->height(), plot->fontMetrics().height() * 4);
+  EXPECT_TRUE(shows(plot->grab().toImage(), plot->colourOf(0)));
+}
+
+TEST_F(InfoPanelTest, TextsAreListedAsTheyAreRecorded) {
+  add("core::string::concatenate", "words");
+  select({"/words"});
+  const auto ports = table("ports")->model();
+  const int line = ports->rowCount() - 1;
+  clickWatchBox(line);
+  const std::string name = ports->index(0, PortsModel::kName).data().toString().toStdString();
+  host.run("orvNode g \"/words\" -setPortDefaultValues " + name + " \"one\"");
+  settle();
+  auto* watch = find<WatchView>();
+  ASSERT_NE(watch, nullptr);
+  auto* list = watch->findChild<QListView*>();
+  EXPECT_TRUE(list->isVisible());
+  EXPECT_FALSE(find<Plot>()->isVisible());
+  ASSERT_EQ(list->model()->rowCount(), 2);
+  EXPECT_TRUE(list->model()->index(1, 0).data().toString().contains("one"));
+  list->setFocus();
+  QTest::keyClick(list, Qt::Key_Home);
+  EXPECT_EQ(list->currentIndex().row(), 0);
+}
+
+TEST_F(InfoPanelTest, ChangesOfOtherNodesLeadToNewRecordsOnly) {
+  add("core::math::add", "source");
+  host.run("orvConnect g \"/source.result\" \"/sum.a\"");
+  settle();
+  clickWatchBox(2);
+  QLabel* name = editor.findChild<QLabel*>("name");
+  name->setText("as it is");
+  host.run("orvNode g \"/source\" -setPortDefaultValues a 7");
+  settle();
+  EXPECT_EQ(table("ports")->model()->index(2, PortsModel::kValue).data(), "7");
+  EXPECT_EQ(name->text(), "as it is") << "nothing else is read again";
+  host.run("orvNode g \"/sum\" -setPortDefaultValues b 1");
+  settle();
+  EXPECT_EQ(name->text(), "sum");
+}
+
+TEST_F(InfoPanelTest, MetadataOfAWatchPointHaveATableOnceThereAreSome) {
+  clickWatchBox(2);
+  auto* watch = find<WatchView>();
+  auto* metadataTable = watch->findChild<MetadataTable*>();
+  EXPECT_FALSE(metadataTable->isVisible());
+  QTest::mouseClick(watch->findChild<QWidget*>("add watch metadata"), Qt::LeftButton);
+  EXPECT_TRUE(metadataTable->isVisible());
+  enterCell(metadataTable, 0, 0, "note");
+  const QModelIndex key = metadataTable->model()->index(0, 0);
+  EXPECT_EQ(key.data(), "note");
 }
 
 TEST_F(InfoPanelTest, AButtonRemovesAWatchPoint) {

@@ -5,6 +5,7 @@
 
 #include "standalone/widgets/parameters/ParameterPreferences.h"
 #include "standalone/widgets/parameters/fields/RangePopup.h"
+#include "tests/standalone/widgets/hooks/IdleHooks.h"
 #include "tests/standalone/widgets/parameters/ParameterTesting.h"
 
 namespace orvuilib {
@@ -126,9 +127,8 @@ TEST_F(NumberRowTest, ADragShowsValuesOnTheirWayAndIsOneLine) {
   QTest::mouseRelease(slider(), Qt::LeftButton, {}, at(0.8));
   settle();
   EXPECT_NE(value("/sum.a"), onTheWay);
-  const auto ran = lines();
-  EXPECT_EQ(ran.back(),
-            "orvNode \"g\" \"/sum\" -setPortDefaultValues \"a\" \"" + value("/sum.a") + "\"");
+  EXPECT_THAT(lines(), ElementsAre("orvNode \"g\" \"/sum\" -setPortDefaultValues \"a\" \"" +
+                                   value("/sum.a") + "\""));
   expectOneStep(before);
 }
 
@@ -141,7 +141,8 @@ TEST_F(NumberRowTest, ADragOfAValueThatWasSetIsTheOnlyLine) {
   QTest::mouseMove(slider(), at(0.9));
   QTest::mouseRelease(slider(), Qt::LeftButton, {}, at(0.9));
   settle();
-  EXPECT_EQ(lines().size(), 1u);
+  EXPECT_THAT(lines(), ElementsAre("orvNode \"g\" \"/sum\" -setPortDefaultValues \"a\" \"" +
+                                   value("/sum.a") + "\""));
   expectOneStep(before);
 }
 
@@ -155,6 +156,7 @@ TEST_F(NumberRowTest, EscapeInADragPutsBackHowItWas) {
   settle();
   EXPECT_EQ(stored(), before);
   EXPECT_THAT(host.steps(), IsEmpty());
+  EXPECT_THAT(lines(), IsEmpty());
   EXPECT_EQ(entry("a")->text(), "0");
 }
 
@@ -203,6 +205,76 @@ TEST_F(NumberRowTest, TheUserGivesTheSliderARange) {
   QTest::mouseClick(popup->findChild<QPushButton*>(), Qt::LeftButton);
   settle();
   EXPECT_EQ(slider()->most(), 1);
+}
+
+TEST_F(NumberRowTest, KeysMoveTheSlider) {
+  const std::string before = stored();
+  slider()->setFocus();
+  QTest::keyPress(slider(), Qt::Key_Right);
+  QTest::keyPress(slider(), Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(value("/sum.a"), "0.11");
+  EXPECT_THAT(lines(), IsEmpty());
+  QTest::keyRelease(slider(), Qt::Key_Right);
+  settle();
+  EXPECT_THAT(lines(), ElementsAre("orvNode \"g\" \"/sum\" -setPortDefaultValues \"a\" \"0.11\""));
+  expectOneStep(before);
+  QTest::keyClick(slider(), Qt::Key_End);
+  EXPECT_EQ(value("/sum.a"), "1");
+  QTest::keyClick(slider(), Qt::Key_PageDown);
+  EXPECT_EQ(value("/sum.a"), "0.9");
+  QTest::keyClick(slider(), Qt::Key_Home);
+  EXPECT_EQ(value("/sum.a"), "0");
+}
+
+TEST_F(NumberRowTest, EscapeTakesBackWhatKeysMoved) {
+  const std::string before = stored();
+  slider()->setFocus();
+  QTest::keyPress(slider(), Qt::Key_PageUp);
+  EXPECT_EQ(value("/sum.a"), "0.1");
+  QTest::keyClick(slider(), Qt::Key_Escape);
+  QTest::keyRelease(slider(), Qt::Key_PageUp);
+  settle();
+  EXPECT_EQ(stored(), before);
+  EXPECT_THAT(lines(), IsEmpty());
+}
+
+TEST_F(NumberRowTest, ADragWhoseEndIsNotSeenIsGivenUp) {
+  const std::string before = stored();
+  slider()->setFocus();
+  QTest::mousePress(slider(), Qt::LeftButton, {}, at(0.7));
+  entry("b")->setFocus();
+  QTest::mouseMove(slider(), at(0.9));
+  settle();
+  EXPECT_EQ(stored(), before);
+  EXPECT_THAT(lines(), IsEmpty());
+}
+
+TEST_F(NumberRowTest, KeysAskForTheRangeOfTheSlider) {
+  slider()->setFocus();
+  QTest::keyClick(slider(), Qt::Key_F10, Qt::ShiftModifier);
+  auto* popup = part<RangePopup>("a");
+  ASSERT_NE(popup, nullptr);
+  auto* most = popup->findChild<QLineEdit*>("most");
+  QTest::keyClick(popup->findChild<QLineEdit*>("least"), Qt::Key_Tab);
+  EXPECT_TRUE(most->hasFocus());
+  most->selectAll();
+  QTest::keyClicks(most, "25");
+  QTest::keyClick(most, Qt::Key_Return);
+  EXPECT_EQ(slider()->most(), 25);
+  QTest::keyClick(most, Qt::Key_Escape);
+  settle();
+  EXPECT_EQ(row("a")->findChild<RangePopup*>(), nullptr);
+}
+
+TEST_F(NumberRowTest, ARefusedEditIsSaid) {
+  IdleCommandHook idle;
+  orvUI_v1::setCommandHook(&idle, nullptr);
+  enter(entry("a"), "2");
+  EXPECT_EQ(value("/sum.a"), "0");
+  EXPECT_EQ(entry("a")->text(), "0");
+  auto* notice = editor.findChild<QLabel*>("notice");
+  EXPECT_TRUE(notice->isVisible());
+  EXPECT_EQ(notice->text(), "The graph refused the value of a");
 }
 
 TEST_F(NumberRowTest, ResetGivesTheDefaultBack) {

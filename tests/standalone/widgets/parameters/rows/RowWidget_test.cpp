@@ -10,6 +10,7 @@
 #include "standalone/widgets/parameters/fields/ChoiceBox.h"
 #include "standalone/widgets/parameters/fields/ColourButton.h"
 #include "standalone/widgets/parameters/fields/NumberField.h"
+#include "standalone/widgets/parameters/fields/ParagraphField.h"
 #include "standalone/widgets/parameters/fields/SourceLink.h"
 #include "tests/standalone/widgets/parameters/ParameterTesting.h"
 
@@ -126,6 +127,59 @@ TEST_F(RowTest, LineEndsInATextSurviveAVisit) {
   QTest::keyClick(entry("it"), Qt::Key_Return);
   EXPECT_THAT(lines(), IsEmpty());
   EXPECT_EQ(valueTexts(row("it")->row().first()), QStringList("a\nb"));
+}
+
+TEST_F(RowTest, TheMetadataOfThePortAskForATextOfSeveralLines) {
+  selectPort("string");
+  const int before1 = row("it")->height();
+  host.run("orvNode g \"/box\" -setPortMetaDataValue \"it\" \"lines\" \"4\"");
+  settle();
+  EXPECT_EQ(row("it")->height(), 4 * before1);
+  host.session().undoQueue().clear();
+  before = stored();
+  auto* field = part<ParagraphField>("it");
+  QTest::mouseClick(field->viewport(), Qt::LeftButton);
+  QTest::keyClicks(field, "one");
+  QTest::keyClick(field, Qt::Key_Return);
+  QTest::keyClicks(field, "two");
+  EXPECT_THAT(host.steps(), IsEmpty());
+  QTest::keyClick(field, Qt::Key_Return, Qt::ControlModifier);
+  settle();
+  EXPECT_EQ(valueTexts(row("it")->row().first()), QStringList("one\ntwo"));
+  expectOneStep(before);
+}
+
+TEST_F(RowTest, ATextOfSeveralLinesIsShownAndLeftByAVisit) {
+  selectPort("string");
+  host.run("orvNode g \"/box\" -setPortMetaDataValue \"it\" \"lines\" \"4\"");
+  host.run("orvNode g \"/box\" -setPortDefaultValues \"it\" \"one\\ntwo\"");
+  settle();
+  host.takeEchoes();
+  auto* field = part<ParagraphField>("it");
+  EXPECT_EQ(field->toPlainText(), "one\ntwo");
+  QTest::mouseClick(field->viewport(), Qt::LeftButton);
+  QTest::keyClick(field, Qt::Key_Tab);
+  settle();
+  EXPECT_THAT(lines(), IsEmpty());
+}
+
+TEST_F(RowTest, EscapeTakesBackATextOfSeveralLines) {
+  selectPort("string");
+  host.run("orvNode g \"/box\" -setPortMetaDataValue \"it\" \"lines\" \"4\"");
+  settle();
+  before = stored();
+  auto* field = part<ParagraphField>("it");
+  QTest::mouseClick(field->viewport(), Qt::LeftButton);
+  QTest::keyClicks(field, "one");
+  host.run("orvCompound g \"/box\" -createInputPort other float");
+  settle();
+  EXPECT_EQ(part<ParagraphField>("it")->toPlainText(), "one") << "it is not disturbed";
+  QTest::keyClick(field, Qt::Key_Escape);
+  EXPECT_EQ(field->toPlainText(), "");
+  undo();
+  QTest::keyClick(field, Qt::Key_Tab);
+  settle();
+  EXPECT_EQ(stored(), before);
 }
 
 TEST_F(RowTest, ChoicesComeFromTheMetadataOfThePort) {
