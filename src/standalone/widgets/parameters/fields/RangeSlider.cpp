@@ -14,6 +14,8 @@ namespace orvuilib {
 
 RangeSlider::RangeSlider(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::ClickFocus);
+  // A release that went elsewhere is seen by a move without a button.
+  setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
@@ -52,7 +54,9 @@ void RangeSlider::mousePressEvent(QMouseEvent* event) {
 }
 
 void RangeSlider::mouseMoveEvent(QMouseEvent* event) {
-  if (dragged_) moveTo(event->position().x());
+  if (!dragged_) return;
+  if (!(event->buttons() & Qt::LeftButton)) return cancel();
+  moveTo(event->position().x());
 }
 
 void RangeSlider::mouseReleaseEvent(QMouseEvent* event) {
@@ -73,6 +77,11 @@ void RangeSlider::keyPressEvent(QKeyEvent* event) {
 void RangeSlider::hideEvent(QHideEvent* event) {
   if (dragged_) cancel();
   QWidget::hideEvent(event);
+}
+
+void RangeSlider::focusOutEvent(QFocusEvent* event) {
+  if (dragged_) cancel();
+  QWidget::focusOutEvent(event);
 }
 
 void RangeSlider::cancel() {
