@@ -43,6 +43,15 @@ NodeObject* makeNode(EditSession& session, const NewNode& what) {
   return EditSession::object(session.hook().addIONode(level, flag, {}));
 }
 
+/// What gives to the port ends at the place, what takes from it begins there.
+QPointF cornerOf(const EditSession& session, NodeObject& node, const NodePlace& place) {
+  if (!place.connectTo || !place.connectTo->isInput()) return place.position;
+  BoxItem box;
+  box.node = orvlib::NodeRef(&node);
+  layOut(box, {}, session.scene().theme());
+  return place.position - QPointF(box.bounds.width(), 0);
+}
+
 QRectF selectedBounds(const LevelScene& scene) {
   QRectF bounds;
   for (const BoxItem* box : scene.selectedBoxes()) bounds |= box->bounds;
@@ -83,7 +92,7 @@ NodeObject* addNode(EditSession& session, const NewNode& what, const NodePlace& 
   const EditStep step(session, QStringLiteral("Add node"));
   NodeObject* node = makeNode(session, what);
   if (!node) return nullptr;
-  setPosition(session, *node, place.position);
+  setPosition(session, *node, cornerOf(session, *node, place));
   if (place.connectTo) connectToFirstFitting(session, *place.connectTo, *node);
   return node;
 }

@@ -32,16 +32,19 @@ void Canvas::setZoom(qreal zoom, const QPointF& fixed) {
   zoom_ = std::clamp(zoom, kSmallestZoom, kLargestZoom);
   origin_ = fixed - scenePoint * pixels();
   update();
+  tellOfView();
 }
 
 void Canvas::panBy(const QPointF& pixels) {
   origin_ += pixels;
   update();
+  tellOfView();
 }
 
 void Canvas::centreOn(const QPointF& point) {
   origin_ = QPointF(width(), height()) / 2 - point * pixels();
   update();
+  tellOfView();
 }
 
 void Canvas::fit(const QRectF& area) {
@@ -89,12 +92,32 @@ bool Canvas::event(QEvent* event) {
     return true;
   }
   // The editor's keys are the editor's, also where the window has the same ones.
-  if (event->type() == QEvent::ShortcutOverride) {
-    event->accept();
+  if (event->type() == QEvent::ShortcutOverride && input_) {
+    event->setAccepted(input_->wantsKey(static_cast<QKeyEvent&>(*event)));
     return true;
   }
+  if (event->type() == QEvent::WindowDeactivate && input_) input_->interrupted();
   return QWidget::event(event);
 }
+
+void Canvas::tellOfView() {
+  if (input_) input_->viewChanged();
+}
+
+void Canvas::resizeEvent(QResizeEvent*) { tellOfView(); }
+
+void Canvas::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  if (input_) input_->interrupted();
+}
+
+void Canvas::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  if (input_) input_->interrupted();
+}
+
+/// The editor opens its menus itself.
+void Canvas::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
 
 void Canvas::mousePressEvent(QMouseEvent* event) {
   if (input_) input_->mousePressed(*event);
