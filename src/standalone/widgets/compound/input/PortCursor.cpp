@@ -217,13 +217,12 @@ void PortCursor::paint(QPainter& painter, const PaintSettings& settings) const {
     const QPointF start = anchorOf(*begun.box, *begun.slot);
     painter.setPen(QPen(colour, 1.5, Qt::DotLine));
     painter.drawEllipse(start, kRing, kRing);
-    const QPointF end = port() ? at.value_or(start) : start;
     const WirePainter wires(scene_.theme(), settings);
     const QColor typed = scene_.theme().typeColour(begun_->valueType().name);
-    if (begun.slot->left)
-      wires.paintLoose(painter, end, start, typed);
-    else
-      wires.paintLoose(painter, start, end, typed);
+    if (port() && port() != begun_.get()) {
+      const bool left = begun.slot->left;
+      wires.paintLoose(painter, left ? *at : start, left ? start : *at, typed);
+    }
   }
   if (const Wire* current = wire()) {
     painter.setPen(QPen(colour, 2.5));
