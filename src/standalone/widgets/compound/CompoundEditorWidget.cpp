@@ -20,10 +20,7 @@ CompoundEditorWidget::CompoundEditorWidget(QWidget* parent)
       theme_(currentScale()),
       breadcrumb_(new Breadcrumb(theme_, this)),
       canvas_(new Canvas(scene_, preferences_, this)),
-      nodeMenu_(new NodeMenu(theme_, canvas_)),
-      findList_(new FindList(theme_, canvas_)),
-      inlineEditor_(new InlineEditor(theme_, canvas_)),
-      help_(new HelpOverlay(theme_, canvas_)),
+      overlays_(theme_, canvas_),
       bench_(new Workbench{scene_, *canvas_, session_, preferences_,
                            [this](const edits::NodePlace& place) { openNodeMenu(place); }}),
       interaction_(new Interaction(*bench_, *this)) {
@@ -41,10 +38,7 @@ CompoundEditorWidget::CompoundEditorWidget(QWidget* parent)
   connect(breadcrumb_, &Breadcrumb::levelChosen, this, [this](NodeObject* level) {
     if (level->compound()) diveInto(*level);
   });
-  connect(nodeMenu_, &NodeMenu::picked, this, &CompoundEditorWidget::addPicked);
-  connect(nodeMenu_, &NodeMenu::dismissed, canvas_, [this] { canvas_->setFocus(); });
-  connect(findList_, &FindList::found, this, [this](NodeObject* node) { reveal(*node); });
-  connect(findList_, &FindList::dismissed, canvas_, [this] { canvas_->setFocus(); });
+  connectOverlays();
   connect(&Preferences::instance(), &Preferences::changed, this,
           &CompoundEditorWidget::readPreferences);
   auto& selection = SelectionModel::instance();
@@ -82,6 +76,7 @@ void CompoundEditorWidget::editCompound(const ORV_v1::AddRefWrapper<ORV_v1::Node
   auto* node = static_cast<NodeObject*>(topNode.get());
   const bool shows = node && node->container() && node->compound();
   keepView();
+  overlays_.findList().forget();
   listenTo(shows ? node->container() : nullptr);
   navigator_.open(shows ? node : nullptr);
   showCurrentLevel();
@@ -103,11 +98,8 @@ void CompoundEditorWidget::diveInto(NodeObject& node) {
 
 /// A key for the menu, the search or a field that is open goes there.
 void CompoundEditorWidget::sendKeyEvent(int key, QFlags<Qt::KeyboardModifier> modifiers) {
-  QWidget* target = canvas_;
-  if (nodeMenu_->isVisible()) target = &nodeMenu_->field();
-  if (findList_->isVisible()) target = &findList_->field();
-  if (inlineEditor_->isVisible()) target = inlineEditor_;
-  if (help_->isVisible()) target = help_;
+  QWidget* target = overlays_.keyTarget();
+  if (!target) target = canvas_;
   const bool plain = !(modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
   const bool printable = plain && key >= Qt::Key_Space && key <= 0xff;
   QChar typed(static_cast<char16_t>(printable ? key : 0));
@@ -154,17 +146,17 @@ void CompoundEditorWidget::keepView() {
   if (level) navigator_.viewOf(*level) = {canvas_->zoom(), canvas_->centre()};
 }
 
-void CompoundEditorWidget::closeOverlays() {
+void CompoundEditorWidget::leaveLevel() {
   interaction_->cancel();
+  interaction_->cursor().clear();
   canvas_->setHovered(nullptr, nullptr);
-  inlineEditor_->cancel();
-  nodeMenu_->hide();
+  overlays_.leaveLevel();
 }
 
 void CompoundEditorWidget::showCurrentLevel() {
-  closeOverlays();
+  leaveLevel();
   NodeObject* level = navigator_.current();
-  if (!level) findList_->forget();
+  if (!level) overlays_.findList().forget();
   scene_.show(level);
   canvas_->setNotice({});
   canvas_->setReadOnly(level ? session_.refusal() : QString());
@@ -206,8 +198,14 @@ void CompoundEditorWidget::resizeEvent(QResizeEvent* event) {
   CompoundEditor::resizeEvent(event);
   layout()->activate();
   fitAgain();
-  if (help_->isVisible()) help_->setGeometry(canvas_->rect());
 }
+
+void CompoundEditorWidget::hideEvent(QHideEvent* event) {
+  CompoundEditor::hideEvent(event);
+  overlays_.leaveLevel();
+}
+
+void CompoundEditorWidget::viewHasChanged() { overlays_.follow(); }
 
 void CompoundEditorWidget::showEvent(QShowEvent* event) {
   CompoundEditor::showEvent(event);
@@ -217,16 +215,19 @@ void CompoundEditorWidget::showEvent(QShowEvent* event) {
 
 void CompoundEditorWidget::graphChanged(orvlib::ContainerObject& container,
                                         std::span<const orvlib::NodeChange> changes) {
+  overlays_.findList().graphChanged();
   // Another top: the graph was read anew.
   if (&container.top() != navigator_.top()) {
     navigator_.open(&container.top());
     return showCurrentLevel();
   }
   if (navigator_.leaveWhatIsGone()) return showCurrentLevel();
-  interaction_->cancel();
+  interaction_->graphChanges(changes);
   canvas_->setHovered(nullptr, nullptr);
   canvas_->repaintArea(scene_.follow(changes));
   canvas_->setReadOnly(session_.refusal());
+  interaction_->graphFollowed();
+  overlays_.follow();
   const bool renamed = std::ranges::any_of(changes, [](const orvlib::NodeChange& change) {
     return change.bits & orvlib::kIdentityChange && change.node->compound();
   });
@@ -246,29 +247,12 @@ void CompoundEditorWidget::graphGoes(orvlib::ContainerObject&) {
 void CompoundEditorWidget::selectionMayHaveChanged() {
   if (scene_.selectionRound() == toldSelection_) return;
   toldSelection_ = scene_.selectionRound();
+  interaction_->cursor().check();
+  overlays_.follow();
   SelectionModel::Nodes nodes;
   nodes.reserve(scene_.selectedBoxes().size());
   for (BoxItem* box : scene_.selectedBoxes()) nodes.push_back(EditSession::handle(*box->node));
   SelectionModel::instance().select(nodes);
-}
-
-void CompoundEditorWidget::openNodeMenu(const edits::NodePlace& place) {
-  if (!bench_->canEdit()) return;
-  const QPoint point = canvas_->toWidget(place.position).toPoint();
-  nodeMenu_->offer(scene_.levelNode()->core(), place, point);
-}
-
-void CompoundEditorWidget::addPicked(const edits::NewNode& what) {
-  canvas_->setFocus();
-  const edits::NodePlace place = nodeMenu_->place();
-  if (!bench_->canEdit()) return;
-  const NodeObject* node = edits::addNode(session_, what, place);
-  BoxItem* box = node ? scene_.find(node) : nullptr;
-  if (!box) return;
-  scene_.clearSelection();
-  scene_.select(*box);
-  canvas_->update();
-  selectionMayHaveChanged();
 }
 
 void CompoundEditorWidget::reveal(NodeObject& node) {

@@ -5,15 +5,11 @@
 #include "platform/orvUI_1_0/CompoundEditor.h"
 #include "platform/orvUI_1_0/OrvUiApi.h"
 #include "standalone/graph/model/Changes.h"
+#include "standalone/widgets/compound/edits/WireEdits.h"
 #include "standalone/widgets/compound/input/Interaction.h"
 #include "standalone/widgets/compound/parts/Breadcrumb.h"
-#include "standalone/widgets/compound/parts/FindList.h"
-#include "standalone/widgets/compound/parts/HelpOverlay.h"
-#include "standalone/widgets/compound/parts/InlineEditor.h"
-#include "standalone/widgets/compound/parts/NodeMenu.h"
+#include "standalone/widgets/compound/parts/Overlays.h"
 #include "standalone/widgets/compound/view/Navigator.h"
-
-class QMenu;
 
 namespace orvuilib {
 
@@ -43,6 +39,7 @@ class ORVUI_EXPORT CompoundEditorWidget final : public orvUI_v1::CompoundEditor,
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   // ChangeListener
@@ -56,6 +53,8 @@ class ORVUI_EXPORT CompoundEditorWidget final : public orvUI_v1::CompoundEditor,
   void renameInPlace(const Hit& hit) override;
   void diveInto(orvlib::NodeObject& node) override;
   void openContextMenu(const Hit& hit, const QPoint& globalPosition) override;
+  void addPortAt(const BoxItem& box) override;
+  void viewHasChanged() override;
 
   // CompoundEditorWidget.cpp
   void listenTo(orvlib::ContainerObject* container);
@@ -64,9 +63,7 @@ class ORVUI_EXPORT CompoundEditorWidget final : public orvUI_v1::CompoundEditor,
   void fitAll();
   void fit(const QRectF& area);
   void fitAgain();
-  void closeOverlays();
-  void openNodeMenu(const edits::NodePlace& place);
-  void addPicked(const edits::NewNode& what);
+  void leaveLevel();
   void reveal(orvlib::NodeObject& node);
   void followSelection();
   void revealIfAsked(orvlib::NodeObject* node, bool mayLeaveLevel, bool& revealed);
@@ -82,23 +79,54 @@ class ORVUI_EXPORT CompoundEditorWidget final : public orvUI_v1::CompoundEditor,
   void selectConnected(bool upstream);
   void invertSelection();
   void select(const std::vector<orvlib::NodeRef>& nodes);
-  void nudge(const QPointF& steps);
+  void nudge(const QPointF& by);
+  void growNotes(const QSizeF& by);
   void arrange(const std::vector<edits::Moved>& moved);
   void autoLayout();
   void addBackdrop();
   void toggleWatch(const Hit& hit);
   void disconnectSelection();
-  void removeHovered();
+  void removeCurrentWire();
+  void pasteAt(const QPointF& place);
+
+  // EditorPorts.cpp
+  bool performWalk(Action action);
+  bool performPort(Action action);
+  void editPort(Action action, orvlib::PortObject& port);
+  void walk(PortCursor::Way way);
+  void wireByKey(orvlib::PortObject& port);
+  void addPort(orvlib::CompoundObject& compound, bool output, const QPointF& at);
+  void choosePortType(orvlib::PortObject& port);
+  void showAllPorts();
+  void showPorts(const std::vector<orvlib::PortRef>& ports);
+  orvlib::CompoundObject& compoundForPorts() const;
+  QPointF placeForPorts(bool output) const;
+
+  // EditorFields.cpp: what opens over the canvas
+  void connectOverlays();
+  SearchList::Place placeAt(const QPointF& scenePoint) const;
+  bool canStillEdit() const { return session_.refusal().isEmpty(); }
+  void openNodeMenu(const edits::NodePlace& place, const std::vector<Action>& actions = {});
+  void openNodeMenuFor(const edits::Joint& wire, const QPointF& at);
+  void addByKey();
+  void addPicked(const edits::NewNode& what);
+  void addAndSelect(const edits::NewNode& what, const edits::NodePlace& place);
+  orvlib::NodeObject* addInto(const edits::Joint& joint, const edits::NewNode& what,
+                              const QPointF& at);
+  void performAt(Action action, const QPointF& place);
+  void openFind();
+  void addNote(const std::function<void()>& add);
+  void renameNode(BoxItem& box);
+  void renamePort(orvlib::PortObject& port);
+  void changeText(NoteItem& note);
+  void chooseColour();
 
   // EditorMenus.cpp
-  void addNodeActions(QMenu& menu);
-  void addPortActions(QMenu& menu, orvlib::PortObject& port);
-  void addCompoundActions(QMenu& menu, const Hit& hit);
-  void addAction(QMenu& menu, Action action, const QString& text);
-  void addHiddenPorts(QMenu& menu, const BoxItem& box);
-  void renameNode(BoxItem& box);
-  void renamePort(BoxItem& box, const PortSlot& slot);
-  void changeText(NoteItem& note);
+  class MenuMaker;
+  void selectFor(const Hit& hit);
+  void dress(QMenu& menu) const;
+  void popUp(QMenu& menu, const QPoint& globalPosition, std::function<bool()> isFor);
+  void openMenuByKey();
 
   Theme theme_;
   EditorPreferences preferences_;
@@ -108,13 +136,12 @@ class ORVUI_EXPORT CompoundEditorWidget final : public orvUI_v1::CompoundEditor,
   orvlib::ContainerObject* container_ = nullptr;  ///< that it listens to
   Breadcrumb* breadcrumb_;
   Canvas* canvas_;
-  NodeMenu* nodeMenu_;
-  FindList* findList_;
-  InlineEditor* inlineEditor_;
-  HelpOverlay* help_;
+  Overlays overlays_;
   std::unique_ptr<Workbench> bench_;
   std::unique_ptr<Interaction> interaction_;
   QString runtimeHint_;
+  QString usualType_ = QStringLiteral("float");  ///< that was last chosen for a port
+  std::optional<edits::Joint> insertInto_;       ///< a wire that the node menu was opened for
   std::uint64_t toldSelection_ = 0;
 
   struct Fitted {

@@ -13,13 +13,15 @@ constexpr qreal kZoomStep = 1.25;
 }  // namespace
 
 void CompoundEditorWidget::perform(Action action) {
-  if (action == Action::Help) return help_->open();
+  if (action == Action::Help) return overlays_.help().open();
   if (!scene_.levelNode()) return;
-  if (performView(action) || performSelection(action) || performPreference(action)) {
+  const bool done = performView(action) || performSelection(action) || performPreference(action) ||
+                    performWalk(action);
+  if (done) {
     canvas_->update();
-    return selectionMayHaveChanged();
+  } else if (!performPort(action)) {
+    performEdit(action);
   }
-  performEdit(action);
   selectionMayHaveChanged();
 }
 
@@ -39,10 +41,14 @@ bool CompoundEditorWidget::performView(Action action) {
       canvas_->setZoom(canvas_->zoom() / kZoomStep, middle);
       return true;
     case Action::Find:
-      findList_->openFor(*navigator_.top(), QPoint(canvas_->width(), 0));
+      openFind();
       return true;
     case Action::FindNext:
-      findList_->chooseNext();
+      if (!overlays_.findList().isSearching()) {
+        openFind();
+      } else {
+        overlays_.findList().chooseNext();
+      }
       return true;
     case Action::DiveIn:
       if (scene_.selectedBoxes().size() == 1 && scene_.selectedBoxes()[0]->node->compound()) {
@@ -77,6 +83,11 @@ bool CompoundEditorWidget::performSelection(Action action) {
       scene_.forEachNote([this](NoteItem& note) { scene_.select(note); });
       return true;
     case Action::SelectNone:
+      if (interaction_->cursor().begun()) {
+        interaction_->cursor().dropWire();
+        return true;
+      }
+      interaction_->cursor().clear();
       scene_.clearSelection();
       return true;
     case Action::InvertSelection:

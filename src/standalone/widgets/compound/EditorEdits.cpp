@@ -36,6 +36,10 @@ bool isForSelection(Action action) {
     case AlignRight:
     case AlignTop:
     case AlignBottom:
+    case NarrowNotes:
+    case WidenNotes:
+    case LowerNotes:
+    case HeightenNotes:
     case Disconnect:
       return true;
     default:
@@ -70,15 +74,15 @@ void CompoundEditorWidget::performEdit(Action action) {
   if (!allowed) return;
   switch (action) {
     case Action::AddNode:
-      return openNodeMenu({interaction_->pointer(), nullptr});
+      return addByKey();
     case Action::Rename:
       if (scene_.selectedBoxes().size() == 1) return renameNode(*scene_.selectedBoxes()[0]);
       if (scene_.selectedNotes().size() == 1) return changeText(*scene_.selectedNotes()[0]);
       return;
     case Action::Paste:
-      return select(edits::paste(session_, interaction_->pointer()));
+      return pasteAt(interaction_->pointer());
     case Action::AddNote:
-      return edits::addStickyNote(session_, interaction_->pointer());
+      return performAt(action, interaction_->pointer());
     case Action::AddBackdrop:
       return addBackdrop();
     case Action::AutoLayout:
@@ -90,7 +94,7 @@ void CompoundEditorWidget::performEdit(Action action) {
   }
   if (!isForSelection(action)) return;
   if (scene_.selectedBoxes().empty() && scene_.selectedNotes().empty()) {
-    if (action == Action::Remove) removeHovered();
+    if (action == Action::Remove || action == Action::Disconnect) removeCurrentWire();
     return;
   }
   performOnSelection(action);
@@ -127,6 +131,14 @@ void CompoundEditorWidget::performOnSelection(Action action) {
       return nudge({0, -step});
     case Action::NudgeDown:
       return nudge({0, step});
+    case Action::NarrowNotes:
+      return growNotes({-step, 0});
+    case Action::WidenNotes:
+      return growNotes({step, 0});
+    case Action::LowerNotes:
+      return growNotes({0, -step});
+    case Action::HeightenNotes:
+      return growNotes({0, step});
     case Action::AlignLeft:
       return arrange(edits::aligned(boxes, Edge::Left));
     case Action::AlignRight:
@@ -155,6 +167,16 @@ void CompoundEditorWidget::nudge(const QPointF& by) {
   arrange(moved);
 }
 
+void CompoundEditorWidget::growNotes(const QSizeF& by) {
+  const std::vector<NoteItem*> notes = scene_.selectedNotes();
+  if (notes.empty()) return;
+  const EditStep step(session_, QStringLiteral("Resize"));
+  for (NoteItem* note : notes) {
+    const QSizeF size = (note->bounds.size() + by).expandedTo(kSmallestNote);
+    edits::setBounds(session_, *note, {note->bounds.topLeft(), size});
+  }
+}
+
 void CompoundEditorWidget::arrange(const std::vector<edits::Moved>& moved) {
   if (!moved.empty()) edits::move(session_, moved);
 }
@@ -172,15 +194,19 @@ void CompoundEditorWidget::addBackdrop() {
   QRectF area;
   for (const BoxItem* box : scene_.selectedBoxes()) area |= box->bounds;
   if (area.isNull()) area = QRectF(interaction_->pointer(), QSizeF(200, 110));
-  edits::addBackdrop(session_, edits::backdropAround(area));
+  addNote([this, area] { edits::addBackdrop(session_, edits::backdropAround(area)); });
 }
 
-/// Of the selected nodes, unless a port or a wire is pointed at, their first outputs.
+void CompoundEditorWidget::pasteAt(const QPointF& place) { select(edits::paste(session_, place)); }
+
+/// Of the selected nodes their first outputs, unless a port or a wire is current or pointed at.
 void CompoundEditorWidget::toggleWatch(const Hit& hit) {
-  if (hit.slot || hit.wire) {
-    edits::toggleWatchPoint(session_, hit.slot ? *hit.port() : *hit.wire->source);
-    return;
-  }
+  const auto toggle = [this](PortObject& port) { edits::toggleWatchPoint(session_, port); };
+  const PortCursor& cursor = interaction_->cursor();
+  if (cursor.port()) return toggle(*cursor.port());
+  if (const Wire* wire = cursor.wire()) return toggle(*wire->source);
+  if (hit.slot) return toggle(*hit.port());
+  if (hit.wire) return toggle(*hit.wire->source);
   const auto nodes = edits::selectedNodeList(scene_);
   std::vector<orvlib::PortRef> ports;
   for (const auto& node : *nodes) {
@@ -203,9 +229,11 @@ void CompoundEditorWidget::disconnectSelection() {
   if (!joints.empty()) edits::removeWires(session_, joints);
 }
 
-void CompoundEditorWidget::removeHovered() {
-  const Hit hit = interaction_->hitAtPointer();
-  if (hit.wire) edits::removeWires(session_, {{hit.wire->source, hit.wire->target}});
+/// The one that the keys are about, or else the one that is pointed at.
+void CompoundEditorWidget::removeCurrentWire() {
+  const Wire* wire = interaction_->cursor().wire();
+  if (!wire) wire = interaction_->hitAtPointer().wire;
+  if (wire) edits::removeWires(session_, {{wire->source, wire->target}});
 }
 
 }  // namespace orvuilib

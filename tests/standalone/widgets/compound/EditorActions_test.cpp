@@ -1,5 +1,4 @@
 #include <QClipboard>
-#include <QMenu>
 #include <sstream>
 
 #include "standalone/widgets/compound/scene/ShownValue.h"
@@ -223,13 +222,8 @@ TEST_F(EditorActionsTest, ARightClickOnAPortOffersItsEdits) {
   host.run("orvCompound g \"/\" -createInputPort x float");
   host.takeEchoes();
   key(Qt::Key_A);
-  QTest::mouseClick(&canvas(), Qt::RightButton, {}, dotOf(*scene().inputs(), "x"));
-  auto* open = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  ASSERT_TRUE(open);
-  for (QAction* action : open->actions()) {
-    if (action->text() == "Hide port") action->trigger();
-  }
-  open->close();
+  rightClick(dotOf(*scene().inputs(), "x"));
+  choose("Hide port");
   EXPECT_THAT(host.takeEchoes(), ElementsAre("orvCompound \"g\" \"/\" -hidePort \"x\" true"));
   EXPECT_LT(scene().inputs()->portSlots[0].row, 0);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QMenu>
+#include <QPointer>
 #include <QTest>
 
 #include "hook/orvVeskCommandHook.h"
@@ -100,6 +102,34 @@ class EditorTest : public CommandTest {
   void hover(const QPoint& point) { moveTo(point, Qt::NoButton); }
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(&canvas(), key, modifiers);
+  }
+
+  QPlainTextEdit* field() { return canvas().findChild<QPlainTextEdit*>("inlineEditor"); }
+
+  void rightClick(const QPoint& point) { QTest::mouseClick(&canvas(), Qt::RightButton, {}, point); }
+
+  /// The context menu that is open; null when none is.
+  static QMenu* contextMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+
+  /// An item of the open menu or of a menu in it, without its key; null when there is none.
+  static QAction* item(const QString& text, const QMenu* menu = contextMenu()) {
+    if (!menu) return nullptr;
+    for (QAction* action : menu->actions()) {
+      if (action->text().section(QLatin1Char('\t'), 0, 0) == text) return action;
+      QAction* below = action->menu() ? item(text, action->menu()) : nullptr;
+      if (below) return below;
+    }
+    return nullptr;
+  }
+
+  /// Chooses an item of the open menu, which closes.
+  static void choose(const QString& text) {
+    QPointer<QMenu> open = contextMenu();
+    QAction* action = item(text);
+    ASSERT_TRUE(action) << text.toStdString();
+    EXPECT_TRUE(action->isEnabled()) << text.toStdString();
+    action->trigger();
+    if (open) open->close();
   }
 
   orvuilib::SearchList* menu(const char* name = "nodeMenu") {

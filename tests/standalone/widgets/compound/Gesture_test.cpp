@@ -55,6 +55,62 @@ TEST_F(GestureTest, ABandSelectsWhatItTouches) {
   EXPECT_THAT(selected(), ElementsAre("b", "c"));
 }
 
+TEST_F(GestureTest, ABandShowsWhatItWouldSelectAndEscapeGivesItBack) {
+  click(titleOf("c"));
+  press(at({-350, -180}));
+  moveTo(at({-250, 100}));
+  EXPECT_THAT(selected(), ElementsAre("a"));
+  moveTo(at({50, 100}));
+  EXPECT_THAT(selected(), ElementsAre("a", "b"));
+  moveTo(at({-250, 100}));
+  EXPECT_THAT(selected(), ElementsAre("a"));
+  key(Qt::Key_Escape);
+  EXPECT_THAT(selected(), ElementsAre("c"));
+  QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, at({-250, 100}));
+  EXPECT_THAT(selected(), ElementsAre("c"));
+}
+
+TEST_F(GestureTest, ABandTakesNotesThatItTouchesAndBackdropsThatItHolds) {
+  host.run("orvCompound g \"/\" -addStickyNote text -addBackdrop d");
+  host.run("orvCompound g \"/\" -setAnnotationMetaDataValue note editor.position \"-400,200\"");
+  host.run("orvCompound g \"/\" -setAnnotationMetaDataValue d editor.position \"-200,200\"");
+  host.takeEchoes();
+  const auto count = [this] { return scene().selectedNotes().size(); };
+  drag(at({-350, 150}), at({-150, 250}));
+  EXPECT_EQ(count(), 1u);
+  EXPECT_FALSE(scene().selectedNotes()[0]->isBackdrop());
+  drag(at({-440, 320}), at({120, 150}));
+  EXPECT_EQ(count(), 1u);
+  canvas().setZoom(0.5, {});
+  canvas().centreOn({});
+  drag(at({-440, 420}), at({120, 150}));
+  EXPECT_EQ(count(), 2u);
+}
+
+TEST_F(GestureTest, APressWithCtrlOnWhatIsSelectedDragsItAlong) {
+  key(Qt::Key_A, Qt::ControlModifier);
+  drag(titleOf("a"), titleOf("a") + QPoint(40, 30), Qt::ControlModifier);
+  EXPECT_THAT(host.takeEchoes(), SizeIs(3));
+  EXPECT_THAT(selected(), ElementsAre("a", "b", "c"));
+  click(titleOf("a"), Qt::ControlModifier);
+  EXPECT_THAT(selected(), ElementsAre("b", "c"));
+}
+
+TEST_F(GestureTest, ADragToTheEdgeTakesTheViewAlong) {
+  const QPointF before = canvas().centre();
+  press(titleOf("a"));
+  moveTo(QPoint(canvas().width() - 40, 300));
+  moveTo(QPoint(canvas().width() - 2, 300));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return canvas().centre().x() > before.x() + 100; }));
+  const qreal held = box("a")->bounds.x();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box("a")->bounds.x() > held + 50; }));
+  key(Qt::Key_Escape);
+  const QPointF stopped = canvas().centre();
+  QTest::qWait(50);
+  EXPECT_EQ(canvas().centre(), stopped);
+  EXPECT_EQ(box("a")->bounds.topLeft(), QPointF(-300, -100));
+}
+
 TEST_F(GestureTest, ADragMovesWhatIsSelectedInOneStep) {
   click(titleOf("a"));
   click(titleOf("b"), Qt::ShiftModifier);
@@ -85,7 +141,7 @@ TEST_F(GestureTest, NothingIsWrittenWhileADragGoesOn) {
   EXPECT_THAT(host.takeEchoes(), IsEmpty());
 }
 
-TEST_F(GestureTest, ADragIsGivenUpWhenTheGraphChanges) {
+TEST_F(GestureTest, ADragIsGivenUpWhenWhatItHoldsGoes) {
   press(titleOf("a"));
   moveTo(titleOf("a") + QPoint(50, 50));
   host.run("orvCompound g \"/\" -removeNode a");
@@ -153,6 +209,17 @@ TEST_F(GestureTest, ANewWireIntoEmptySpaceOpensTheMenuOfWhatFits) {
   EXPECT_THAT(selected(), IsEmpty());  // by the undo
 }
 
+TEST_F(GestureTest, ANodeFromAnInputEndsWhereTheWireWasLetGo) {
+  const std::string before = stored();
+  drag(dotOf("b", "a"), at({-60, 60}));
+  ASSERT_TRUE(menu()->isVisible());
+  QTest::keyClicks(&menu()->field(), "negate");
+  QTest::keyClick(&menu()->field(), Qt::Key_Return);
+  ASSERT_TRUE(box("negate"));
+  EXPECT_EQ(box("negate")->bounds.topRight(), QPointF(-60, 60));
+  EXPECT_THAT(oneStep(before), Contains("orvConnect \"g\" \"/negate.result\" \"/b.a\""));
+}
+
 TEST_F(GestureTest, ANodeThatIsLetGoOnAWireIsPutIntoIt) {
   connect("/a.result", "/b.a");
   const QPointF middle = (scene().find(*node("/a")->port("result")).box->bounds.topRight() +
@@ -179,16 +246,48 @@ TEST_F(GestureTest, AWireToTheBoundaryMakesAPortThere) {
   EXPECT_EQ(scene().wireCount(), 1u);
 }
 
-TEST_F(GestureTest, APortIsMadeAndMovedOnTheBoundary) {
+TEST_F(GestureTest, APortIsMadeOfTheTypeThatIsChosen) {
+  key(Qt::Key_A);
+  const std::string before = stored();
+  click(at(orvuilib::addRowOf(*scene().outputs()).center()));
+  ASSERT_TRUE(menu("typeList")->isVisible());
+  QTest::keyClicks(&menu("typeList")->field(), "color3");
+  QTest::keyClick(&menu("typeList")->field(), Qt::Key_Return);
+  EXPECT_FALSE(menu("typeList")->isVisible());
+  EXPECT_THAT(oneStep(before),
+              ElementsAre("orvCompound \"g\" \"/\" -createOutputPort \"output\" \"color3\""));
+}
+
+TEST_F(GestureTest, TheTypeThatWasChosenLastIsOfferedFirst) {
+  key(Qt::Key_A);
+  for (int i = 0; i < 2; ++i) {
+    click(at(orvuilib::addRowOf(*scene().inputs()).center()));
+    if (i == 0) QTest::keyClicks(&menu("typeList")->field(), "string");
+    QTest::keyClick(&menu("typeList")->field(), Qt::Key_Return);
+  }
+  EXPECT_THAT(host.takeEchoes(),
+              ElementsAre("orvCompound \"g\" \"/\" -createInputPort \"input\" \"string\"",
+                          "orvCompound \"g\" \"/\" -createInputPort \"input\" \"string\""));
+}
+
+TEST_F(GestureTest, EscapeMakesNoPort) {
   key(Qt::Key_A);
   click(at(orvuilib::addRowOf(*scene().outputs()).center()));
-  click(at(orvuilib::addRowOf(*scene().outputs()).center()));
-  EXPECT_THAT(host.takeEchoes(),
-              ElementsAre("orvCompound \"g\" \"/\" -createOutputPort \"output\" \"float\"",
-                          "orvCompound \"g\" \"/\" -createOutputPort \"output\" \"float\""));
+  QTest::keyClick(&menu("typeList")->field(), Qt::Key_Escape);
+  EXPECT_TRUE(canvas().hasFocus());
+  EXPECT_THAT(host.takeEchoes(), IsEmpty());
+}
+
+TEST_F(GestureTest, APortIsMovedOnTheBoundary) {
+  host.run("orvCompound g \"/\" -createOutputPort x float");
+  host.run("orvCompound g \"/\" -createOutputPort y float");
+  key(Qt::Key_A);
+  host.takeEchoes();
+  host.session().undoQueue().clear();
+  const std::string before = stored();
   const QRectF row = orvuilib::rowOf(*scene().outputs(), scene().outputs()->portSlots[0]);
   drag(at(row.center()), at(row.center() + QPointF(0, 22)));
-  EXPECT_THAT(host.takeEchoes(), ElementsAre("orvCompound \"g\" \"/\" -movePort \"output\" 1"));
+  EXPECT_THAT(oneStep(before), ElementsAre("orvCompound \"g\" \"/\" -movePort \"x\" 1"));
 }
 
 TEST_F(GestureTest, ABackdropMovesWithWhatLiesOnIt) {
@@ -258,6 +357,89 @@ TEST_F(GestureTest, ADoubleClickInACompoundsBodyGoesIn) {
   QTest::mouseDClick(&canvas(), Qt::LeftButton, {}, body);
   EXPECT_THAT(editor->breadcrumb().texts(), ElementsAre("g", "/ inner"));
   host.takeEchoes();
+}
+
+TEST_F(GestureTest, EscapeGivesUpWhateverIsHeld) {
+  host.run("orvCompound g \"/\" -createInputPort x float -createInputPort y float");
+  host.run("orvCompound g \"/\" -addStickyNote text");
+  host.run("orvCompound g \"/\" -setAnnotationMetaDataValue note editor.position \"-300,100\"");
+  connect("/a.result", "/b.a");
+  key(Qt::Key_A);
+  const auto* note = scene().find(node("/")->compound()->annotations().at(0));
+  const QRectF noteBounds = note->bounds;
+  const QPointF inputs = scene().inputs()->bounds.topLeft();
+  const QRectF label = orvuilib::rowOf(*scene().inputs(), scene().inputs()->portSlots[0]);
+  const std::string before = stored();
+  for (const QPoint& from :
+       {dotOf("a", "result"), dotOf("b", "a"), at(noteBounds.bottomRight() - QPointF(4, 4)),
+        at(noteBounds.center()), at(label.center()), at(inputs + QPointF(20, 10))}) {
+    press(from);
+    moveTo(from + QPoint(30, 45));
+    moveTo(from + QPoint(60, 60));
+    key(Qt::Key_Escape);
+    QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, from + QPoint(60, 60));
+    EXPECT_THAT(host.takeEchoes(), IsEmpty());
+    EXPECT_FALSE(menu()->isVisible());
+    EXPECT_EQ(note->bounds, noteBounds);
+    EXPECT_EQ(scene().inputs()->bounds.topLeft(), inputs);
+  }
+  EXPECT_EQ(stored(), before);
+}
+
+TEST_F(GestureTest, ADoubleClickChangesTheTextOfANoteABackdropAndAPort) {
+  host.run("orvCompound g \"/\" -createInputPort x float");
+  host.run("orvCompound g \"/\" -addStickyNote text -addBackdrop back");
+  host.run("orvCompound g \"/\" -setAnnotationMetaDataValue note editor.position \"-300,100\"");
+  host.run("orvCompound g \"/\" -setAnnotationMetaDataValue back editor.position \"-50,100\"");
+  key(Qt::Key_A);
+  const auto change = [this](const QPointF& where) {
+    host.takeEchoes();
+    host.session().undoQueue().clear();
+    const std::string before = stored();
+    QTest::mouseDClick(&canvas(), Qt::LeftButton, {}, at(where));
+    QTest::keyClicks(field(), "said");
+    QTest::keyClick(field(), Qt::Key_Return);
+    return oneStep(before);
+  };
+  EXPECT_THAT(change({-290, 110}), ElementsAre(HasSubstr("\"note\" \"editor.text\" \"said\"")));
+  EXPECT_THAT(change({-40, 110}), ElementsAre(HasSubstr("\"back\" \"editor.text\" \"said\"")));
+  const QRectF label = orvuilib::rowOf(*scene().inputs(), scene().inputs()->portSlots[0]);
+  EXPECT_THAT(change(label.center()),
+              ElementsAre("orvCompound \"g\" \"/\" -renamePort \"x\" \"said\""));
+}
+
+TEST_F(GestureTest, ADoubleClickOnADotShowsComponents) {
+  add("core::color::mix3", "m", -300, 100);
+  const int rows = box("m")->rows;
+  QTest::mouseDClick(&canvas(), Qt::LeftButton, {}, dotOf("m", "a"));
+  EXPECT_EQ(box("m")->rows, rows + 3);
+  QTest::mouseDClick(&canvas(), Qt::LeftButton, {}, dotOf("m", "a"));
+  EXPECT_EQ(box("m")->rows, rows);
+  EXPECT_THAT(host.takeEchoes(), IsEmpty());
+}
+
+TEST_F(GestureTest, ADragKeepsToTheGridWhenThatIsWanted) {
+  key(Qt::Key_G, Qt::ShiftModifier);
+  drag(titleOf("a"), titleOf("a") + QPoint(33, 27));
+  EXPECT_THAT(host.takeEchoes(),
+              ElementsAre("orvNode \"g\" \"/a\" -setMetaData \"editor.position\" \"-260,-80\""));
+  key(Qt::Key_G, Qt::ShiftModifier);
+}
+
+TEST_F(GestureTest, NotesAreCopiedToAnotherLevel) {
+  host.run("orvCompound g \"/\" -addStickyNote text -create inner");
+  host.run("orvCompound g \"/\" -setAnnotationMetaDataValue note editor.position \"-300,100\"");
+  host.run("orvNode g /inner -setMetaData editor.position \"0,150\"");
+  click(at({-290, 110}));
+  key(Qt::Key_C, Qt::ControlModifier);
+  click(titleOf("inner"));
+  key(Qt::Key_Return);
+  host.takeEchoes();
+  host.session().undoQueue().clear();
+  const std::string before = stored();
+  key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_THAT(oneStep(before), Contains("orvPaste \"g\" \"/inner\""));
+  EXPECT_EQ(node("/inner")->compound()->annotations().count(), 1u);
 }
 
 }  // namespace

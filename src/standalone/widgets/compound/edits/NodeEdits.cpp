@@ -39,6 +39,15 @@ NodeObject* makeNode(EditSession& session, const NewNode& what) {
   return EditSession::object(session.hook().addIONode(level, flag, {}));
 }
 
+/// What gives to the port ends at the place, what takes from it begins there.
+QPointF cornerOf(const EditSession& session, NodeObject& node, const NodePlace& place) {
+  if (!place.connectTo || !place.connectTo->isInput()) return place.position;
+  BoxItem box;
+  box.node = orvlib::NodeRef(&node);
+  layOut(box, {}, session.scene().theme());
+  return place.position - QPointF(box.bounds.width(), 0);
+}
+
 }  // namespace
 
 bool setPosition(EditSession& session, NodeObject& node, const QPointF& position) {
@@ -74,7 +83,7 @@ NodeObject* addNode(EditSession& session, const NewNode& what, const NodePlace& 
   EditStep step(session, QStringLiteral("Add node"));
   NodeObject* node = makeNode(session, what);
   if (!step.require(node)) return nullptr;
-  step.require(setPosition(session, *node, place.position));
+  step.require(setPosition(session, *node, cornerOf(session, *node, place)));
   if (place.connectTo) {
     step.require(connectToFirstFitting(session, *place.connectTo, *node));
   }

@@ -15,9 +15,20 @@ namespace {
 
 constexpr qreal kZoomStep = 1.15;
 
+/// Space, with which the left button pans.
+bool isPanKey(const QKeyEvent& event) {
+  constexpr auto kOthers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  return event.key() == Qt::Key_Space && !(event.modifiers() & kOthers);
+}
+
 bool isOnBoundary(const Hit& hit) { return hit.box && hit.box->kind != BoxKind::Node; }
 
 }  // namespace
+
+Interaction::Interaction(Workbench& bench, InteractionTarget& target)
+    : bench_(bench), target_(target), cursor_(bench.scene), edgeScroll_(bench.canvas, [this] {
+        if (gesture_ && pointer_) dragTo(*pointer_, press_.modifiers);
+      }) {}
 
 QPointF Interaction::pointer() const {
   return pointer_ ? bench_.canvas.toScene(*pointer_) : bench_.canvas.centre();
@@ -27,10 +38,34 @@ Hit Interaction::hitAtPointer() const { return pointer_ ? bench_.canvas.hitAt(po
 
 bool Interaction::cancel() {
   press_ = {};
+  edgeScroll_.stop();
   if (!gesture_) return false;
   const GesturePtr gone = std::move(gesture_);
   gone->cancel();
+  target_.selectionMayHaveChanged();
   return true;
+}
+
+void Interaction::interrupted() {
+  spaceDown_ = false;
+  cancel();
+}
+
+void Interaction::viewChanged() { target_.viewHasChanged(); }
+
+void Interaction::graphChanges(std::span<const orvlib::NodeChange> changes) {
+  if (!gesture_) return;
+  const bool locked = gesture_->edits() && !bench_.session.refusal().isEmpty();
+  if (locked || !gesture_->outlives(changes)) cancel();
+}
+
+void Interaction::graphFollowed() {
+  cursor_.check();
+  if (gesture_) {
+    gesture_->graphFollowed();
+  } else if (pointer_) {
+    hover(*pointer_);
+  }
 }
 
 void Interaction::mousePressed(QMouseEvent& event) {
@@ -38,39 +73,37 @@ void Interaction::mousePressed(QMouseEvent& event) {
   pointer_ = event.position();
   if (!bench_.scene.levelNode() || gesture_) return;
   bench_.canvas.setNotice({});
+  cursor_.clear();
   press_ = {event.button(), event.modifiers(), event.position(),
-            bench_.canvas.hitAt(bench_.canvas.toScene(event.position()))};
-  if (event.button() == Qt::LeftButton) selectPressed(press_);
+            bench_.canvas.toScene(event.position())};
+  if (event.button() == Qt::LeftButton) selectPressed();
 }
 
 /// What is pressed is selected at once, so that it can be dragged on; what is selected already
 /// stays so together with the rest until the button is let go.
-void Interaction::selectPressed(const Press& press) {
-  const Hit& hit = press.hit;
-  const bool panning = spaceDown_ || (press.modifiers & Qt::AltModifier);
+void Interaction::selectPressed() {
+  const Hit hit = hitOf(press_);
+  const bool panning = spaceDown_ || (press_.modifiers & Qt::AltModifier);
   if (panning || hit.onDot) return;
-  if (hit.box && hit.box->kind == BoxKind::Node) selectItem(*hit.box, press.modifiers);
-  if (hit.note) selectItem(*hit.note, press.modifiers);
+  if (hit.box && hit.box->kind == BoxKind::Node) pressItem(*hit.box);
+  if (hit.note) pressItem(*hit.note);
 }
 
 template <class Item>
-void Interaction::selectItem(Item& item, Qt::KeyboardModifiers modifiers) {
+void Interaction::pressItem(Item& item) {
   LevelScene& scene = bench_.scene;
-  if (modifiers & Qt::ControlModifier) {
-    if (item.selected) {
-      scene.deselect(item);
-    } else {
-      scene.select(item);
-    }
-  } else if (!item.selected) {
-    if (!(modifiers & Qt::ShiftModifier)) scene.clearSelection();
-    scene.select(item);
-  }
+  const bool adds = press_.modifiers & (Qt::ControlModifier | Qt::ShiftModifier);
+  press_.deselects = item.selected && (press_.modifiers & Qt::ControlModifier);
+  if (item.selected) return;
+  if (!adds) scene.clearSelection();
+  scene.select(item);
   bench_.canvas.update();
   target_.selectionMayHaveChanged();
 }
 
 void Interaction::mouseMoved(QMouseEvent& event) {
+  // The release went elsewhere, such as to a dialog that had opened.
+  if (press_.button != Qt::NoButton && !(event.buttons() & press_.button)) cancel();
   pointer_ = event.position();
   if (!gesture_ && press_.button != Qt::NoButton) {
     const QPointF away = event.position() - press_.at;
@@ -78,49 +111,40 @@ void Interaction::mouseMoved(QMouseEvent& event) {
     gesture_ = gestureFor(press_);
     if (!gesture_) press_ = {};
   }
-  if (gesture_) {
-    gesture_->move(bench_.canvas.toScene(event.position()), event.modifiers());
-  } else {
-    hover(event.position());
-  }
+  if (!gesture_) return hover(event.position());
+  if (gesture_->scrollsAtEdge()) edgeScroll_.follow(event.position());
+  dragTo(event.position(), event.modifiers());
+}
+
+void Interaction::dragTo(const QPointF& point, Qt::KeyboardModifiers modifiers) {
+  gesture_->move(bench_.canvas.toScene(point), modifiers);
 }
 
 GesturePtr Interaction::gestureFor(const Press& press) {
-  const QPointF start = bench_.canvas.toScene(press.at);
   const bool byLeft = press.button == Qt::LeftButton;
   const bool pans = press.button == Qt::MiddleButton ||
                     (byLeft && (spaceDown_ || (press.modifiers & Qt::AltModifier)));
-  if (pans) return makePan(bench_, start);
+  if (pans) return makePan(bench_, press.start);
   return byLeft ? leftGesture(press) : nullptr;
 }
 
 GesturePtr Interaction::leftGesture(const Press& press) {
-  const QPointF start = bench_.canvas.toScene(press.at);
-  const Hit& hit = press.hit;
-  switch (hit.part) {
-    case Part::Port:
-      if (hit.onDot) return bench_.canEdit() ? makeWiring(bench_, *hit.port()) : nullptr;
-      if (isOnBoundary(hit)) return makePortMove(bench_, *hit.port(), start);
-      return makeMove(bench_, start, nullptr);
-    case Part::Title:
-    case Part::Body:
-    case Part::AddPort:
-      return makeMove(bench_, start, isOnBoundary(hit) ? hit.box : nullptr);
-    case Part::Note:
-      return makeMove(bench_, start, nullptr);
-    case Part::NoteHandle:
-      return makeResize(bench_, *hit.note);
-    case Part::Wire:
-    case Part::Nothing:
-      break;
-  }
-  return makeBand(bench_, start, press.modifiers);
+  const Hit hit = hitOf(press);
+  const bool selects = hit.part == Part::Wire || hit.part == Part::Nothing;
+  if (selects) return makeBand(bench_, press.start, press.modifiers);
+  if (!bench_.canEdit()) return nullptr;
+  if (hit.part == Part::NoteHandle) return makeResize(bench_, *hit.note);
+  if (hit.part == Part::Port && hit.onDot) return makeWiring(bench_, *hit.port());
+  if (!isOnBoundary(hit)) return makeMove(bench_, press.start, nullptr);
+  if (hit.part == Part::Port) return makePortMove(bench_, *hit.port(), press.start);
+  return makeMove(bench_, press.start, hit.box);
 }
 
 void Interaction::mouseReleased(QMouseEvent& event) {
   pointer_ = event.position();
   if (event.button() != press_.button) return;
   const Press press = std::exchange(press_, {});
+  edgeScroll_.stop();
   if (const GesturePtr gesture = std::move(gesture_)) {
     // The graph changes now, and what is done is not to be given up for that.
     gesture->finish(bench_.canvas.toScene(event.position()), event.modifiers());
@@ -131,26 +155,31 @@ void Interaction::mouseReleased(QMouseEvent& event) {
 }
 
 void Interaction::click(const Press& press, const QPoint& globalPosition) {
-  const Hit& hit = press.hit;
+  const Hit hit = hitOf(press);
   if (press.button == Qt::RightButton) return target_.openContextMenu(hit, globalPosition);
   if (press.button != Qt::LeftButton) return;
-  const bool adds = press.modifiers & (Qt::ShiftModifier | Qt::ControlModifier);
-  if (hit.part == Part::AddPort && bench_.canEdit()) {
-    const bool output =
-        hit.box->kind == BoxKind::Outputs || hit.box->node->nodeKind() == orvlib::NodeKind::Output;
-    edits::createLevelPort(bench_.session, output, nullptr);
+  if (hit.part == Part::AddPort) {
+    if (bench_.canEdit()) target_.addPortAt(*hit.box);
     return;
   }
-  if (adds) return;
+  clickItems(press, hit);
+  bench_.canvas.update();
+  target_.selectionMayHaveChanged();
+}
+
+void Interaction::clickItems(const Press& press, const Hit& hit) {
   LevelScene& scene = bench_.scene;
+  if (press.deselects) {
+    if (hit.box) scene.deselect(*hit.box);
+    if (hit.note) scene.deselect(*hit.note);
+  }
+  if (press.modifiers & (Qt::ShiftModifier | Qt::ControlModifier)) return;
   const bool keeps = (hit.box && hit.box->selected) || (hit.note && hit.note->selected);
   const bool alone = scene.selectedBoxes().size() + scene.selectedNotes().size() == 1;
   if (keeps && alone) return;
   scene.clearSelection();
   if (hit.box && !hit.onDot) scene.select(*hit.box);
   if (hit.note) scene.select(*hit.note);
-  bench_.canvas.update();
-  target_.selectionMayHaveChanged();
 }
 
 void Interaction::doubleClicked(QMouseEvent& event) {
@@ -171,16 +200,25 @@ void Interaction::wheelTurned(QWheelEvent& event) {
   const qreal steps = event.angleDelta().y() / 120.0;
   if (steps == 0) return;
   bench_.canvas.setZoom(bench_.canvas.zoom() * std::pow(kZoomStep, steps), event.position());
+  if (gesture_) dragTo(event.position(), event.modifiers());
+}
+
+bool Interaction::wantsKey(const QKeyEvent& event) const {
+  return isPanKey(event) || actionFor(event.key(), event.modifiers());
 }
 
 bool Interaction::keyPressed(QKeyEvent& event) {
-  if (event.key() == Qt::Key_Space) {
+  if (isPanKey(event)) {
     spaceDown_ = true;
     return true;
   }
   const auto action = actionFor(event.key(), event.modifiers());
   if (!action) return false;
-  if (action == Action::SelectNone && cancel()) return true;
+  // Any other key would do something else than the button that is held.
+  if (gesture_) {
+    if (action == Action::SelectNone) cancel();
+    return true;
+  }
   target_.perform(*action);
   return true;
 }
@@ -209,6 +247,7 @@ void Interaction::pointerLeft() {
 }
 
 void Interaction::paintGesture(QPainter& painter, const PaintSettings& settings) {
+  cursor_.paint(painter, settings);
   if (gesture_) gesture_->paint(painter, settings);
 }
 

@@ -1,14 +1,47 @@
 // Gestures that move things: boxes and notes, the corner of a note, a port among its like.
 
+#include <QHash>
 #include <QSet>
 
 #include "standalone/widgets/compound/edits/PortEdits.h"
 #include "standalone/widgets/compound/edits/WireEdits.h"
 #include "standalone/widgets/compound/input/Gesture.h"
 #include "standalone/widgets/compound/paint/NotePainter.h"
+#include "standalone/widgets/compound/scene/Placement.h"
 
 namespace orvuilib {
+
+using orvlib::NodeChange;
+
 namespace {
+
+/// With a size that a note can have.
+QRectF sized(const QRectF& bounds, const QPointF& size) {
+  return {bounds.topLeft(), QSizeF(size.x(), size.y()).expandedTo(kSmallestNote)};
+}
+
+/// Whether the graph still says that the note lies there, or says nothing.
+bool stays(const LevelScene& scene, const NoteItem& note, const QRectF& bounds) {
+  const orvlib::AnnotationObject& annotation = *note.annotation;
+  const auto& metadata = annotation.metadata();
+  const auto at = placement::pointIn(metadata, placement::kPosition);
+  const auto size = placement::pointIn(metadata, placement::kSize);
+  return annotation.parent() == scene.level() &&
+         at.value_or(bounds.topLeft()) == bounds.topLeft() &&
+         (!size || sized(bounds, *size).size() == bounds.size());
+}
+
+const char* positionKeyOf(const BoxItem& box) {
+  switch (box.kind) {
+    case BoxKind::Inputs:
+      return placement::kInputsPosition;
+    case BoxKind::Outputs:
+      return placement::kOutputsPosition;
+    case BoxKind::Node:
+      break;
+  }
+  return placement::kPosition;
+}
 
 class Move final : public Gesture {
  public:
@@ -25,10 +58,8 @@ class Move final : public Gesture {
   }
 
   void move(const QPointF& point, Qt::KeyboardModifiers) override {
-    QRectF touched;
-    const QPointF offset = offsetTo(point);
-    for (const Start& each : starts_) touched |= put(each, each.position + offset);
-    bench_.canvas.repaintArea(touched);
+    offset_ = offsetTo(point);
+    putAll(offset_);
     findWire();
   }
 
@@ -46,10 +77,23 @@ class Move final : public Gesture {
   }
 
   void cancel() override {
-    QRectF touched;
-    for (const Start& each : starts_) touched |= put(each, each.position);
+    putAll({});
     bench_.canvas.setHovered(nullptr, nullptr);
-    bench_.canvas.repaintArea(touched);
+  }
+
+  bool outlives(std::span<const NodeChange> changes) const override {
+    constexpr unsigned char kMoves = orvlib::kPlaceChange | orvlib::kMetadataChange;
+    return std::ranges::all_of(changes, [this](const NodeChange& change) {
+      if (change.node.get() == bench_.scene.levelNode()) return levelStays();
+      const auto found = held_.constFind(change.node.get());
+      return found == held_.constEnd() || !(change.bits & kMoves) || isThere(starts_[*found]);
+    });
+  }
+
+  /// What was read anew is where the graph has it.
+  void graphFollowed() override {
+    putAll(offset_);
+    findWire();
   }
 
  private:
@@ -59,9 +103,33 @@ class Move final : public Gesture {
     QPointF position;
   };
 
+  bool isThere(const Start& start) const {
+    const LevelScene& scene = bench_.scene;
+    if (start.note) return stays(scene, *start.note, {start.position, start.note->bounds.size()});
+    const bool boundary = start.box->kind != BoxKind::Node;
+    const auto& metadata = boundary ? scene.level()->metadata() : start.box->node->metadata();
+    const auto stored = placement::pointIn(metadata, positionKeyOf(*start.box));
+    return (boundary || start.box->node->parent() == scene.level()) &&
+           stored.value_or(start.position) == start.position;
+  }
+
+  /// Of the boundary, and of notes, which are few.
+  bool levelStays() const {
+    return std::ranges::all_of(starts_, [this](const Start& start) {
+      return (start.box && start.box->kind == BoxKind::Node) || isThere(start);
+    });
+  }
+
+  void putAll(const QPointF& offset) {
+    QRectF touched;
+    for (const Start& each : starts_) touched |= put(each, each.position + offset);
+    bench_.canvas.repaintArea(touched);
+  }
+
   void add(BoxItem& box) {
     if (taken_.contains(&box)) return;
     taken_.insert(&box);
+    held_.insert(box.node.get(), starts_.size());
     starts_.push_back({&box, nullptr, box.bounds.topLeft()});
     bench_.scene.raise(box);
   }
@@ -104,16 +172,20 @@ class Move final : public Gesture {
   }
 
   QPointF start_;
+  QPointF offset_;
   std::vector<Start> starts_;
   QSet<const void*> taken_;
+  QHash<const orvlib::NodeObject*, std::size_t> held_;  ///< which start is that node's
 };
 
 class Resize final : public Gesture {
  public:
-  Resize(Workbench& bench, NoteItem& note) : Gesture(bench), note_(note), before_(note.bounds) {}
+  Resize(Workbench& bench, NoteItem& note)
+      : Gesture(bench), note_(note), before_(note.bounds), at_(before_.bottomRight()) {}
 
   void move(const QPointF& point, Qt::KeyboardModifiers) override {
-    bench_.canvas.repaintArea(bench_.scene.move(note_, boundsTo(point)));
+    at_ = point;
+    graphFollowed();
   }
   void finish(const QPointF& point, Qt::KeyboardModifiers) override {
     cancel();
@@ -123,15 +195,21 @@ class Resize final : public Gesture {
   }
   void cancel() override { bench_.canvas.repaintArea(bench_.scene.move(note_, before_)); }
 
+  bool outlives(std::span<const NodeChange>) const override {
+    return stays(bench_.scene, note_, before_);
+  }
+  void graphFollowed() override {
+    bench_.canvas.repaintArea(bench_.scene.move(note_, boundsTo(at_)));
+  }
+
  private:
   QRectF boundsTo(const QPointF& point) const {
-    const QPointF corner = bench_.preferences.snapped(point);
-    return {before_.topLeft(), QSizeF(std::max(corner.x() - before_.left(), 60.0),
-                                      std::max(corner.y() - before_.top(), 40.0))};
+    return sized(before_, bench_.preferences.snapped(point) - before_.topLeft());
   }
 
   NoteItem& note_;
   QRectF before_;
+  QPointF at_;
 };
 
 class PortMove final : public Gesture {
@@ -150,6 +228,13 @@ class PortMove final : public Gesture {
     bench_.canvas.update();
   }
   void cancel() override { bench_.canvas.update(); }
+
+  /// The rows that it is moved among are those that were seen when it began.
+  bool outlives(std::span<const NodeChange> changes) const override {
+    return std::ranges::none_of(changes, [this](const NodeChange& change) {
+      return change.node.get() == bench_.scene.levelNode() && change.bits & orvlib::kPortChange;
+    });
+  }
 
   void paint(QPainter& painter, const PaintSettings&) override {
     painter.setFont(bench_.scene.theme().font());

@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QKeySequence>
+#include <algorithm>
 
 namespace orvuilib {
 namespace {
@@ -44,10 +45,27 @@ constexpr ShortcutRow kRows[] = {
     {Action::AddNote, "Editing", "Add a sticky note", "Shift+N"},
     {Action::Undo, "Editing", "Undo", "Ctrl+Z"},
     {Action::Redo, "Editing", "Redo", "Ctrl+Shift+Z Ctrl+Y"},
+    {Action::ContextMenu, "Editing", "What can be done with it", "Menu Shift+F10"},
+    {Action::WalkLeft, "Ports and wires", "Go left: port, wire, next node", "Shift+Left"},
+    {Action::WalkRight, "Ports and wires", "Go right: port, wire, next node", "Shift+Right"},
+    {Action::WalkUp, "Ports and wires", "To the port or wire above", "Shift+Up"},
+    {Action::WalkDown, "Ports and wires", "To the port or wire below", "Shift+Down"},
+    {Action::WirePort, "Ports and wires", "Begin a wire at the port, or end it there", "C"},
+    {Action::DisconnectPort, "Ports and wires", "Take the wires off the port", "Shift+D"},
+    {Action::OpenPort, "Ports and wires", "Show the port's components, or not", "O"},
+    {Action::AddInput, "Ports and wires", "Add an input to the compound", "Shift+I"},
+    {Action::AddOutput, "Ports and wires", "Add an output to the compound", "Shift+O"},
+    {Action::RenamePort, "Ports and wires", "Rename the port", "Shift+F2"},
+    {Action::SetPortType, "Ports and wires", "Choose the port's type", "Shift+T"},
+    {Action::MovePortUp, "Ports and wires", "Move the port up", "Shift+PgUp"},
+    {Action::MovePortDown, "Ports and wires", "Move the port down", "Shift+PgDown"},
+    {Action::HidePort, "Ports and wires", "Hide the port", "Shift+H"},
+    {Action::ShowPorts, "Ports and wires", "Show all hidden ports", "Ctrl+Shift+H"},
+    {Action::DeletePort, "Ports and wires", "Delete the port", "Shift+Del"},
     {Action::ToggleEnabled, "States", "Enable or disable", "E"},
     {Action::ToggleFrozen, "States", "Freeze or thaw", "R"},
     {Action::ToggleBypassed, "States", "Bypass, or do not", "B"},
-    {Action::ToggleWatch, "States", "Watch what is pointed at", "W"},
+    {Action::ToggleWatch, "States", "Watch the port or the wire", "W"},
     {Action::NudgeLeft, "Layout", "Move left", "Left"},
     {Action::NudgeRight, "Layout", "Move right", "Right"},
     {Action::NudgeUp, "Layout", "Move up", "Up"},
@@ -56,7 +74,31 @@ constexpr ShortcutRow kRows[] = {
     {Action::AlignRight, "Layout", "Align right edges", "Ctrl+Right"},
     {Action::AlignTop, "Layout", "Align upper edges", "Ctrl+Up"},
     {Action::AlignBottom, "Layout", "Align lower edges", "Ctrl+Down"},
+    {Action::NarrowNotes, "Layout", "Make notes narrower", "Ctrl+Shift+Left"},
+    {Action::WidenNotes, "Layout", "Make notes wider", "Ctrl+Shift+Right"},
+    {Action::LowerNotes, "Layout", "Make notes less high", "Ctrl+Shift+Up"},
+    {Action::HeightenNotes, "Layout", "Make notes higher", "Ctrl+Shift+Down"},
     {Action::AutoLayout, "Layout", "Lay out the selection, or everything", "L"},
+};
+
+constexpr MouseRow kMouseRows[] = {
+    {"click", "selects; with Shift in addition, with Ctrl on and off"},
+    {"drag over empty space", "selects what it touches, and backdrops it holds"},
+    {"drag a node or a note", "moves it; a backdrop with what lies on it"},
+    {"drag a free node onto a wire", "puts it into the wire"},
+    {"drag from a port", "makes a wire, to a port that is lit or to a node"},
+    {"drag a wire into empty space", "opens the menu of what fits, and connects it"},
+    {"drag a wire's end off its input", "moves the wire; into empty space it goes"},
+    {"drag a wire onto \"+ port\"", "makes a port of that type, connected"},
+    {"click on \"+ port\"", "makes a port, of a type to choose"},
+    {"drag a port of the boundary", "moves it among its like"},
+    {"drag the corner of a note", "makes it larger or smaller"},
+    {"double click on a title or a note", "changes its text in place; a port's too"},
+    {"double click on a compound", "goes in"},
+    {"double click on a port's dot", "shows its components, or not"},
+    {"right click", "the menu of nodes, or of what is there"},
+    {"middle, or Alt or Space and left", "pans"},
+    {"wheel", "zooms at the pointer"},
 };
 
 constexpr int kShiftedKeys[] = {Qt::Key_Question, Qt::Key_Plus, Qt::Key_BracketLeft,
@@ -83,9 +125,16 @@ QHash<int, Action> makeIndex() {
   return index;
 }
 
+const ShortcutRow* rowOf(Action action) {
+  const auto found = std::ranges::find(kRows, action, &ShortcutRow::action);
+  return found == std::end(kRows) ? nullptr : found;
+}
+
 }  // namespace
 
 std::span<const ShortcutRow> shortcutTable() { return kRows; }
+
+std::span<const MouseRow> mouseTable() { return kMouseRows; }
 
 std::optional<Action> actionFor(int key, Qt::KeyboardModifiers modifiers) {
   static const QHash<int, Action> index = makeIndex();
@@ -99,10 +148,13 @@ QStringList keysOf(const ShortcutRow& row) {
 }
 
 QString keyTextOf(Action action) {
-  for (const ShortcutRow& row : kRows) {
-    if (row.action == action) return keysOf(row).first();
-  }
-  return {};
+  const ShortcutRow* row = rowOf(action);
+  return row ? keysOf(*row).first() : QString();
+}
+
+QString textOf(Action action) {
+  const ShortcutRow* row = rowOf(action);
+  return row ? QString::fromLatin1(row->text) : QString();
 }
 
 }  // namespace orvuilib

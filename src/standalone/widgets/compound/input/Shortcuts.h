@@ -54,7 +54,28 @@ enum class Action {
   AlignRight,
   AlignTop,
   AlignBottom,
+  NarrowNotes,
+  WidenNotes,
+  LowerNotes,
+  HeightenNotes,
   AutoLayout,
+  WalkLeft,
+  WalkRight,
+  WalkUp,
+  WalkDown,
+  WirePort,
+  DisconnectPort,
+  AddInput,
+  AddOutput,
+  RenamePort,
+  SetPortType,
+  MovePortUp,
+  MovePortDown,
+  HidePort,
+  ShowPorts,
+  DeletePort,
+  OpenPort,
+  ContextMenu,
   ToggleGrid,
   ToggleSnap,
   ToggleValues,
@@ -79,10 +100,22 @@ ORVUI_EXPORT std::span<const ShortcutRow> shortcutTable();
 /// not asked for.
 ORVUI_EXPORT std::optional<Action> actionFor(int key, Qt::KeyboardModifiers modifiers);
 
+/// One line of the table of what the mouse does.
+struct MouseRow {
+  const char* gesture;
+  const char* text;
+};
+
+/// What the mouse does, in the order in which it is shown; docs/editors.md repeats it too.
+ORVUI_EXPORT std::span<const MouseRow> mouseTable();
+
 /// The keys of a row as a user reads them.
 ORVUI_EXPORT QStringList keysOf(const ShortcutRow& row);
 
 /// The first key of an action; empty without one.
 QString keyTextOf(Action action);
+
+/// What an action is called; empty for one that is not in the table.
+QString textOf(Action action);
 
 }  // namespace orvuilib

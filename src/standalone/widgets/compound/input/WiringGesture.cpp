@@ -19,9 +19,7 @@ class Wiring final : public Gesture {
       taken_ = Joint{PortRef(port.source()), PortRef(&port)};
       fixed_ = taken_->source;
     }
-    fits_.emplace(*fixed_);
-    const auto shown = bench.scene.find(*fixed_);
-    if (shown.box) start_ = anchorOf(*shown.box, *shown.slot);
+    graphFollowed();
     end_ = start_;
     bench.canvas.setAccepts([this](const PortObject& other) { return accepts(other); });
   }
@@ -47,6 +45,20 @@ class Wiring final : public Gesture {
 
   void cancel() override { bench_.canvas.setAccepts(nullptr); }
 
+  bool outlives(std::span<const orvlib::NodeChange>) const override {
+    if (!isThere(*fixed_)) return false;
+    return !taken_ || (isThere(*taken_->target) && taken_->target->source() == fixed_.get());
+  }
+
+  /// Other ports may fit now, and the fixed end lie elsewhere.
+  void graphFollowed() override {
+    accepted_.clear();
+    fits_.emplace(*fixed_);
+    const auto shown = bench_.scene.find(*fixed_);
+    if (shown.box) start_ = anchorOf(*shown.box, *shown.slot);
+    bench_.canvas.update();
+  }
+
   void paint(QPainter& painter, const PaintSettings& settings) override {
     const Theme& theme = bench_.scene.theme();
     const WirePainter wires(theme, settings);
@@ -59,6 +71,12 @@ class Wiring final : public Gesture {
   }
 
  private:
+  bool isThere(const PortObject& port) const {
+    const orvlib::NodeObject* node = port.node();
+    const LevelScene& scene = bench_.scene;
+    return node && (node == scene.levelNode() || node->parent() == scene.level());
+  }
+
   /// Asked for each port at each painting, hence remembered.
   bool accepts(const PortObject& other) {
     const auto known = accepted_.constFind(&other);

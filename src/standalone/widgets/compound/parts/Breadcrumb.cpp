@@ -19,6 +19,8 @@ Breadcrumb::Breadcrumb(const Theme& theme, QWidget* parent) : QWidget(parent), t
   forward_ = makeButton(QString(QChar(0x203a)));
   back_->setToolTip(QStringLiteral("Back (Alt+Left)"));
   forward_->setToolTip(QStringLiteral("Forward (Alt+Right)"));
+  back_->setEnabled(false);
+  forward_->setEnabled(false);
   layout->addWidget(back_);
   layout->addWidget(forward_);
   layout->addSpacing(theme.pixels(6));

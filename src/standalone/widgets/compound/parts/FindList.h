@@ -13,10 +13,19 @@ class FindList final : public SearchList {
   FindList(const Theme& theme, QWidget* parent);
 
   /// Looks at and below the level, which the list keeps until it is opened again.
-  void openFor(orvlib::NodeObject& level, const QPoint& point);
+  void openFor(orvlib::NodeObject& level, Place place);
 
-  /// Lets go of the graph.
+  /// Lets go of the graph and of what was found in it.
   void forget();
+
+  /// The graph is another one now: before a line is chosen it is searched anew.
+  void graphChanged() { stale_ = true; }
+
+  /// Whether anything is looked for.
+  bool isSearching() const { return level_ && !field().text().isEmpty(); }
+
+  /// Goes on from what was found last, wherever that stands now.
+  void chooseNext() override;
 
  signals:
   void found(orvlib::NodeObject* node);
@@ -27,8 +36,13 @@ class FindList final : public SearchList {
   bool staysOpen() const override { return true; }
 
  private:
+  void searchAnew();
+  int lineOf(const orvlib::NodeObject* node) const;
+
+  const Theme& theme_;
   orvlib::NodeRef level_;
   std::vector<Found> found_;
+  bool stale_ = false;
 };
 
 }  // namespace orvuilib

@@ -1,77 +1,108 @@
 #include "standalone/widgets/compound/parts/HelpOverlay.h"
 
+#include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 
-#include "standalone/widgets/compound/input/Shortcuts.h"
+#include "standalone/widgets/compound/parts/FocusLoss.h"
+#include "standalone/widgets/compound/parts/HelpLayout.h"
 
 namespace orvuilib {
 namespace {
 
 constexpr int kLine = 19;
 constexpr int kMargin = 22;
+constexpr int kGap = 18;
 
-/// Lays the rows out in as many columns as fit, one below the other.
-class Columns {
- public:
-  Columns(QPainter& painter, const Theme& theme, const QRect& area)
-      : painter_(painter),
-        theme_(theme),
-        area_(area.adjusted(theme.pixels(kMargin), theme.pixels(kMargin), -theme.pixels(kMargin),
-                            -theme.pixels(kMargin))) {
-    const int lines = static_cast<int>(shortcutTable().size()) + 10;
-    const int fitting = std::max(area_.height() / theme.pixels(kLine), 1);
-    count_ = std::max((lines + fitting - 1) / fitting, 1);
-    width_ = area_.width() / count_;
-    perColumn_ = (lines + count_ - 1) / count_;
+bool scrolls(int key) {
+  switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      return true;
+    default:
+      return false;
   }
-
-  void heading(const QString& text) {
-    // Not at the end of a column.
-    if (line_ > 0) ++line_;
-    if (line_ + 2 >= perColumn_) nextColumn();
-    painter_.setPen(theme_.palette().selected);
-    painter_.drawText(place(), Qt::AlignVCenter | Qt::AlignLeft, text);
-    ++line_;
-  }
-
-  void row(const QString& keys, const QString& text) {
-    if (line_ >= perColumn_) nextColumn();
-    const QRect whole = place();
-    const int keyWidth = std::min(theme_.pixels(165), whole.width() * 2 / 5);
-    painter_.setPen(theme_.palette().text);
-    painter_.drawText(whole.adjusted(0, 0, keyWidth - whole.width(), 0), Qt::AlignVCenter, keys);
-    painter_.setPen(theme_.palette().quietText);
-    const QRect rest = whole.adjusted(keyWidth, 0, -theme_.pixels(12), 0);
-    painter_.drawText(rest, Qt::AlignVCenter,
-                      painter_.fontMetrics().elidedText(text, Qt::ElideRight, rest.width()));
-    ++line_;
-  }
-
- private:
-  void nextColumn() {
-    ++column_;
-    line_ = 0;
-  }
-  QRect place() const {
-    const int height = theme_.pixels(kLine);
-    return {area_.left() + column_ * width_, area_.top() + line_ * height, width_, height};
-  }
-
-  QPainter& painter_;
-  const Theme& theme_;
-  QRect area_;
-  int count_ = 1;
-  int width_ = 0;
-  int perColumn_ = 1;
-  int column_ = 0;
-  int line_ = 0;
-};
+}
 
 }  // namespace
 
-HelpOverlay::HelpOverlay(const Theme& theme, QWidget* parent) : QWidget(parent), theme_(theme) {
+/// The texts themselves, as high as they need.
+class HelpOverlay::Page final : public QWidget {
+ public:
+  explicit Page(const Theme& theme)
+      : theme_(theme), metrics_(theme.widgetFont()), groups_(helpGroups()), layout_(laidOut(1000)) {
+    setFont(theme.widgetFont());
+  }
+
+  void fit(int width) {
+    layout_ = laidOut(width);
+    resize(width,
+           static_cast<int>(layout_.lines()) * theme_.pixels(kLine) + 2 * theme_.pixels(kMargin));
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    for (const HelpLayout::Column& column : layout_.columns()) paintColumn(painter, column);
+  }
+
+ private:
+  HelpLayout laidOut(int width) const {
+    return {groups_, metrics_, static_cast<qreal>(theme_.pixels(kGap)),
+            static_cast<qreal>(width - 2 * theme_.pixels(kMargin))};
+  }
+
+  void paintColumn(QPainter& painter, const HelpLayout::Column& column) const {
+    const qreal line = theme_.pixels(kLine);
+    QRectF place(theme_.pixels(kMargin) + column.left, theme_.pixels(kMargin), column.width, line);
+    for (std::size_t i = column.first; i < column.first + column.count; ++i) {
+      painter.setPen(theme_.palette().selected);
+      painter.drawText(place, Qt::AlignVCenter, groups_[i].heading);
+      for (const HelpGroup::Row& row : groups_[i].rows) {
+        place.translate(0, line);
+        paintRow(painter, place, column.keyWidth, row);
+      }
+      place.translate(0, 2 * line);
+    }
+  }
+
+  void paintRow(QPainter& painter, const QRectF& place, qreal keyWidth,
+                const HelpGroup::Row& row) const {
+    const auto draw = [this, &painter](const QRectF& area, const QString& text) {
+      painter.drawText(area, Qt::AlignVCenter,
+                       metrics_.elidedText(text, Qt::ElideRight, area.width() + 0.5));
+    };
+    QRectF keys = place;
+    keys.setWidth(keyWidth - theme_.pixels(kGap) / 2.0);
+    painter.setPen(theme_.palette().text);
+    draw(keys, row.keys);
+    painter.setPen(theme_.palette().quietText);
+    draw(place.adjusted(keyWidth, 0, 0, 0), row.text);
+  }
+
+  const Theme& theme_;
+  QFontMetricsF metrics_;
+  std::vector<HelpGroup> groups_;
+  HelpLayout layout_;
+};
+
+HelpOverlay::HelpOverlay(const Theme& theme, QWidget* parent)
+    : QScrollArea(parent), theme_(theme), page_(new Page(theme)) {
   setObjectName(QStringLiteral("helpOverlay"));
   setFocusPolicy(Qt::StrongFocus);
+  setFrameShape(QFrame::NoFrame);
+  setPalette(theme.widgetPalette());
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setAttribute(Qt::WA_NoMousePropagation);
+  setWidget(page_);
+  // What lies below shines through a little.
+  viewport()->setAutoFillBackground(false);
+  page_->setAutoFillBackground(false);
   hide();
 }
 
@@ -87,23 +118,38 @@ void HelpOverlay::leave() {
   parentWidget()->setFocus();
 }
 
-void HelpOverlay::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  QColor shade = theme_.palette().field;
-  shade.setAlpha(240);
-  painter.fillRect(rect(), shade);
-  painter.setFont(theme_.widgetFont());
-  Columns columns(painter, theme_, rect());
-  QString group;
-  for (const ShortcutRow& row : shortcutTable()) {
-    const QString its = QString::fromLatin1(row.group);
-    if (its != group) columns.heading(group = its);
-    columns.row(keysOf(row).join(QStringLiteral(", ")), QString::fromLatin1(row.text));
-  }
+void HelpOverlay::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  page_->fit(viewport()->width());
 }
 
-void HelpOverlay::keyPressEvent(QKeyEvent*) { leave(); }
+void HelpOverlay::paintEvent(QPaintEvent*) {
+  QPainter painter(viewport());
+  QColor shade = theme_.palette().field;
+  shade.setAlpha(248);
+  painter.fillRect(viewport()->rect(), shade);
+}
+
+void HelpOverlay::keyPressEvent(QKeyEvent* event) {
+  if (scrolls(event->key())) {
+    const bool ends = event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
+    QScrollBar& bar = *verticalScrollBar();
+    if (ends) return bar.setValue(event->key() == Qt::Key_Home ? bar.minimum() : bar.maximum());
+    return QScrollArea::keyPressEvent(event);
+  }
+  leave();
+}
+
+bool HelpOverlay::event(QEvent* event) {
+  // Any plain key is for the help.
+  if (event->type() == QEvent::ShortcutOverride) event->accept();
+  return QScrollArea::event(event);
+}
+
 void HelpOverlay::mousePressEvent(QMouseEvent*) { leave(); }
-void HelpOverlay::focusOutEvent(QFocusEvent*) { hide(); }
+
+void HelpOverlay::focusOutEvent(QFocusEvent* event) {
+  if (leaves(*event)) hide();
+}
 
 }  // namespace orvuilib

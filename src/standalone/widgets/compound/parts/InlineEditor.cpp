@@ -1,6 +1,9 @@
 #include "standalone/widgets/compound/parts/InlineEditor.h"
 
 #include <QKeyEvent>
+#include <algorithm>
+
+#include "standalone/widgets/compound/parts/FocusLoss.h"
 
 namespace orvuilib {
 
@@ -12,22 +15,44 @@ InlineEditor::InlineEditor(const Theme& theme, QWidget* parent)
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFrameShape(QFrame::StyledPanel);
+  // What is done to the field is not done to what it lies on.
+  setAttribute(Qt::WA_NoMousePropagation);
   hide();
 }
 
-void InlineEditor::edit(const QRect& area, const QString& text, bool severalLines, Done done) {
+void InlineEditor::edit(Place place, const QString& text, bool severalLines, Done done) {
   cancel();
+  const auto area = place();
+  if (!area) return;
+  place_ = std::move(place);
   before_ = text;
   severalLines_ = severalLines;
   done_ = std::move(done);
   setLineWrapMode(severalLines ? WidgetWidth : NoWrap);
-  setGeometry(area.united(QRect(area.topLeft(), QSize(theme_.pixels(120), theme_.pixels(28))))
-                  .intersected(parentWidget()->rect()));
+  takePlace(*area);
   setPlainText(text);
   selectAll();
   show();
   raise();
   setFocus();
+}
+
+void InlineEditor::follow() {
+  if (isHidden()) return;
+  const auto area = place_();
+  if (area) return takePlace(*area);
+  const bool focused = hasFocus();
+  cancel();
+  if (focused) parentWidget()->setFocus();
+}
+
+/// Large enough to write in, and never out of sight.
+void InlineEditor::takePlace(const QRect& area) {
+  const QSize room = parentWidget()->size();
+  const QSize least(theme_.pixels(120), theme_.pixels(28));
+  resize(area.size().expandedTo(least).boundedTo(room));
+  move(std::clamp(area.x(), 0, room.width() - width()),
+       std::clamp(area.y(), 0, room.height() - height()));
 }
 
 void InlineEditor::cancel() {
@@ -59,11 +84,14 @@ void InlineEditor::keyPressEvent(QKeyEvent* event) {
 
 void InlineEditor::focusOutEvent(QFocusEvent* event) {
   QPlainTextEdit::focusOutEvent(event);
-  if (isVisible()) commit();
+  if (isVisible() && leaves(*event)) commit();
 }
 
 bool InlineEditor::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
+  // Plain keys of the field are not the window's; of the others it takes those of a text.
+  constexpr auto kOthers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  if (event->type() == QEvent::ShortcutOverride &&
+      !(static_cast<QKeyEvent*>(event)->modifiers() & kOthers)) {
     event->accept();
     return true;
   }

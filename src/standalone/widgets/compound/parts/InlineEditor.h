@@ -2,23 +2,31 @@
 
 #include <QPlainTextEdit>
 #include <functional>
+#include <optional>
 
 #include "standalone/widgets/look/Theme.h"
 
 namespace orvuilib {
 
-/// A field over the canvas in which a text is changed where it stands. Return and losing the focus
-/// take it over, Escape gives it up. With several lines Shift+Return begins a new one.
+/// A field over the canvas in which a text is changed where it stands. Return takes it over, and so
+/// does going elsewhere in the window; Escape gives it up. With several lines Shift+Return begins a
+/// new one.
 class InlineEditor final : public QPlainTextEdit {
   Q_OBJECT
 
  public:
   using Done = std::function<void(const QString&)>;
 
+  /// Where what is changed stands, on the parent; nothing when it is gone.
+  using Place = std::function<std::optional<QRect>()>;
+
   InlineEditor(const Theme& theme, QWidget* parent);
 
-  /// `done` hears of a text that is another one. `area` is of the parent.
-  void edit(const QRect& area, const QString& text, bool severalLines, Done done);
+  /// `done` hears of a text that is another one.
+  void edit(Place place, const QString& text, bool severalLines, Done done);
+
+  /// Takes its place anew, for the parent looks different now; without one it gives up.
+  void follow();
 
   /// Gives up.
   void cancel();
@@ -30,8 +38,10 @@ class InlineEditor final : public QPlainTextEdit {
 
  private:
   void commit();
+  void takePlace(const QRect& area);
 
   const Theme& theme_;
+  Place place_;
   QString before_;
   bool severalLines_ = false;
   Done done_;

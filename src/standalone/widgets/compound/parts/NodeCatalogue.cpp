@@ -1,6 +1,7 @@
 #include "standalone/widgets/compound/parts/NodeCatalogue.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "platform/ORV_1_0/Host.h"
 #include "platform/ORV_1_0/QtConversions.h"
@@ -77,7 +78,23 @@ std::vector<CatalogueEntry> catalogueFor(const orvlib::GraphCore& core) {
     addLibrary(runtime->getRootLibrary(), entries);
   }
   addBuiltIns(entries);
+  std::ranges::sort(entries, {}, [](const CatalogueEntry& entry) {
+    return std::tuple(entry.title.toCaseFolded(), entry.place, entry.what.type);
+  });
   return entries;
+}
+
+std::string CatalogueEntry::colouredAs() const {
+  switch (what.kind) {
+    case NewNode::Kind::Compound:
+      return "compound";
+    case NewNode::Kind::Input:
+      return "input";
+    case NewNode::Kind::Output:
+      return "output";
+    default:
+      return what.type.toStdString();
+  }
 }
 
 std::vector<const CatalogueEntry*> chooseFrom(const std::vector<CatalogueEntry>& entries,

@@ -16,10 +16,13 @@ struct CatalogueEntry {
   QString description;  ///< may be empty
   const orvlib::NodeDescription* definition = nullptr;  ///< kept by `keeper`
   ORV_v1::AddRefWrapper<ORV_v1::NodeDefinition> keeper;
+
+  /// The type whose colour a node of it has on the canvas.
+  std::string colouredAs() const;
 };
 
-/// All that can be added to a graph: the definitions of its runtime in the order of their
-/// libraries, and what needs no definition.
+/// All that can be added to a graph, by title: the definitions of its runtime, and what needs no
+/// definition.
 std::vector<CatalogueEntry> catalogueFor(const orvlib::GraphCore& core);
 
 /// Those that fit what was typed, the best first; with a port, only those that could be connected

@@ -1,36 +1,57 @@
 #include "standalone/widgets/compound/parts/NodeMenu.h"
 
+#include "standalone/widgets/compound/parts/FuzzyMatch.h"
+
 namespace orvuilib {
 
 NodeMenu::NodeMenu(const Theme& theme, QWidget* parent)
-    : SearchList(theme, QStringLiteral("Add a node"), parent) {
+    : SearchList(theme, QStringLiteral("Add a node"), parent), theme_(theme) {
   setObjectName(QStringLiteral("nodeMenu"));
 }
 
-void NodeMenu::offer(const orvlib::GraphCore& core, const edits::NodePlace& place,
-                     const QPoint& point) {
+void NodeMenu::offer(const orvlib::GraphCore& core, const edits::NodePlace& place, Place at,
+                     const std::vector<Action>& actions) {
   // The definitions may have been read anew since the menu was last open.
   shown_.clear();
   entries_ = catalogueFor(core);
+  actions_ = actions;
   position_ = place.position;
   connectTo_ = orvlib::PortRef(place.connectTo);
   const QString type =
       connectTo_ ? QString::fromStdString(connectTo_->valueType().name) : QString();
-  setHint(type.isEmpty() ? QString() : QStringLiteral("What connects to %1").arg(type));
-  openAt(point);
+  hint_ = type.isEmpty() ? QString() : QStringLiteral("What connects to %1").arg(type);
+  openAt(std::move(at));
 }
 
 std::vector<SearchLine> NodeMenu::search(const QString& typed) {
   shown_ = chooseFrom(entries_, typed, connectTo_.get());
-  std::vector<SearchLine> lines;
+  std::vector<SearchLine> nodes;
   for (const CatalogueEntry* entry : shown_) {
-    lines.push_back({entry->title, entry->place, entry->description});
+    nodes.push_back({entry->title, entry->place, entry->description,
+                     theme_.titleColour(entry->colouredAs()).lighter(150)});
   }
-  return lines;
+  std::vector<SearchLine> actions;
+  shownActions_.clear();
+  for (const Action action : actions_) {
+    const QString text = textOf(action);
+    if (fuzzyScore(typed, text) == 0) continue;
+    shownActions_.push_back(action);
+    actions.push_back({text, keyTextOf(action), {}});
+  }
+  setHint(nodes.empty() && actions.empty() ? QStringLiteral("Nothing fits") : hint_);
+  firstAction_ = typed.isEmpty() ? 0 : static_cast<int>(nodes.size());
+  nodes.insert(nodes.begin() + firstAction_, actions.begin(), actions.end());
+  return nodes;
 }
 
 void NodeMenu::chosen(int index) {
-  const edits::NewNode what = shown_[static_cast<std::size_t>(index)]->what;
+  const int actions = static_cast<int>(shownActions_.size());
+  if (index >= firstAction_ && index < firstAction_ + actions) {
+    emit actionPicked(shownActions_[static_cast<std::size_t>(index - firstAction_)]);
+    return;
+  }
+  const int line = index < firstAction_ ? index : index - actions;
+  const edits::NewNode what = shown_[static_cast<std::size_t>(line)]->what;
   emit picked(what);
 }
 

@@ -6,7 +6,18 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "standalone/widgets/compound/parts/FocusLoss.h"
+
 namespace orvuilib {
+namespace {
+
+constexpr int kLine = 22;
+constexpr int kMostLines = 18;
+constexpr int kWidth = 340;
+constexpr int kPlace = Qt::UserRole;
+constexpr int kColour = Qt::UserRole + 1;
+
+}  // namespace
 
 class SearchList::Model final : public QAbstractListModel {
  public:
@@ -20,7 +31,8 @@ class SearchList::Model final : public QAbstractListModel {
   QVariant data(const QModelIndex& index, int role) const override {
     const SearchLine& line = lines_[static_cast<std::size_t>(index.row())];
     if (role == Qt::DisplayRole) return line.text;
-    if (role == Qt::UserRole) return line.place;
+    if (role == kPlace) return line.place;
+    if (role == kColour) return line.colour;
     if (role == Qt::ToolTipRole) return line.toolTip;
     return {};
   }
@@ -34,10 +46,11 @@ class SearchList::Model final : public QAbstractListModel {
 
 class SearchList::Delegate final : public QStyledItemDelegate {
  public:
-  Delegate(const Theme& theme, QObject* parent) : QStyledItemDelegate(parent), theme_(theme) {}
+  Delegate(const Theme& theme, QObject* parent)
+      : QStyledItemDelegate(parent), theme_(theme), metrics_(theme.widgetFont()) {}
 
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-    return {theme_.pixels(100), theme_.pixels(22)};
+    return {theme_.pixels(100), theme_.pixels(kLine)};
   }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -45,23 +58,47 @@ class SearchList::Delegate final : public QStyledItemDelegate {
     const bool current = option.state & QStyle::State_Selected;
     const QPalette palette = theme_.widgetPalette();
     if (current) painter->fillRect(option.rect, palette.color(QPalette::Highlight));
-    painter->setFont(theme_.widgetFont());
-    const QFontMetrics metrics(theme_.widgetFont());
     const int inset = theme_.pixels(8);
-    const QRect area = option.rect.adjusted(inset, 0, -inset, 0);
-    const QString place = index.data(Qt::UserRole).toString();
-    const int placeWidth = std::min(metrics.horizontalAdvance(place) + 1, area.width() / 2);
+    QRectF area = QRectF(option.rect).adjusted(inset, 0, -inset, 0);
+    area.setLeft(paintMark(*painter, area, index.data(kColour).value<QColor>()));
+    const QString text = index.data().toString();
+    const QString place = index.data(kPlace).toString();
+    // The text goes first, but leaves a third to where it is from.
+    const qreal room = area.width() - inset;
+    const qreal textWidth = std::min(metrics_.horizontalAdvance(text), room * 2 / 3);
+    const qreal placeWidth = std::min(metrics_.horizontalAdvance(place), room - textWidth);
+    painter->setFont(theme_.widgetFont());
     painter->setPen(theme_.palette().quietText);
     painter->drawText(area, Qt::AlignRight | Qt::AlignVCenter,
-                      metrics.elidedText(place, Qt::ElideLeft, placeWidth));
+                      fitted(place, placeWidth, Qt::ElideLeft));
     painter->setPen(theme_.palette().text);
     painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
-                      metrics.elidedText(index.data().toString(), Qt::ElideRight,
-                                         area.width() - placeWidth - inset));
+                      fitted(text, room - placeWidth, Qt::ElideRight));
   }
 
  private:
+  /// Gives where the text begins.
+  qreal paintMark(QPainter& painter, const QRectF& area, const QColor& colour) const {
+    if (!colour.isValid()) return area.left();
+    const qreal side = theme_.pixels(8);
+    const QRectF mark(area.left(), area.center().y() - side / 2, side, side);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawRoundedRect(mark, side / 4, side / 4);
+    painter.restore();
+    return mark.right() + side;
+  }
+
+  /// What fits exactly is not cut for a rounding.
+  QString fitted(const QString& text, qreal width, Qt::TextElideMode mode) const {
+    return metrics_.horizontalAdvance(text) <= width + 0.5 ? text
+                                                           : metrics_.elidedText(text, mode, width);
+  }
+
   const Theme& theme_;
+  QFontMetricsF metrics_;
 };
 
 SearchList::SearchList(const Theme& theme, const QString& prompt, QWidget* parent)
@@ -75,11 +112,17 @@ SearchList::SearchList(const Theme& theme, const QString& prompt, QWidget* paren
   setAutoFillBackground(true);
   setFrameShape(QFrame::StyledPanel);
   setFont(theme.widgetFont());
+  // What is done to the list is not done to what it lies on.
+  setAttribute(Qt::WA_NoMousePropagation);
+  setFocusPolicy(Qt::ClickFocus);
+  setFocusProxy(field_);
   field_->setFont(theme.widgetFont());
+  field_->setTextMargins(theme.pixels(4), theme.pixels(2), theme.pixels(4), theme.pixels(2));
   field_->setPlaceholderText(prompt);
   field_->setClearButtonEnabled(true);
   hint_->setFont(theme.widgetFont());
   hint_->setForegroundRole(QPalette::PlaceholderText);
+  hint_->setContentsMargins(theme.pixels(8), 0, theme.pixels(8), 0);
   list_->setModel(model_);
   list_->setItemDelegate(new Delegate(theme, this));
   list_->setFrameShape(QFrame::NoFrame);
@@ -101,16 +144,44 @@ SearchList::SearchList(const Theme& theme, const QString& prompt, QWidget* paren
 
 SearchList::~SearchList() = default;
 
-void SearchList::openAt(const QPoint& point) {
-  const QRect room = parentWidget()->rect();
-  resize(std::min(theme_.pixels(340), room.width()), std::min(theme_.pixels(320), room.height()));
-  move(std::clamp(point.x(), 0, room.width() - width()),
-       std::clamp(point.y(), 0, room.height() - height()));
+void SearchList::openAt(Place place) {
+  place_ = std::move(place);
   field_->clear();
   refresh();
   show();
   raise();
   field_->setFocus();
+}
+
+void SearchList::follow() {
+  if (isHidden()) return;
+  const auto corner = place_();
+  if (!corner) return dismiss();
+  takePlace(*corner);
+}
+
+/// Of all but the lines.
+int SearchList::chromeHeight() const {
+  const QMargins margins = layout()->contentsMargins();
+  int height = margins.top() + margins.bottom() + field_->sizeHint().height() + 2 * frameWidth();
+  if (!hint_->isHidden()) height += layout()->spacing() + hint_->sizeHint().height();
+  return height;
+}
+
+/// Whole lines, as many as there are and as the parent has room for.
+void SearchList::takePlace(const QPoint& corner) {
+  const QRect room = parentWidget()->rect();
+  const int line = theme_.pixels(kLine);
+  const int chrome = chromeHeight();
+  const int gap = layout()->spacing();
+  const int fitting = std::max((room.height() - chrome - gap) / line, 0);
+  const int lines = std::min({lineCount(), kMostLines, fitting});
+  list_->setVisible(lines > 0);
+  list_->setFixedHeight(lines * line);
+  resize(std::min(theme_.pixels(kWidth), room.width()),
+         chrome + (lines > 0 ? gap + lines * line : 0));
+  move(std::clamp(corner.x(), 0, std::max(room.width() - width(), 0)),
+       std::clamp(corner.y(), 0, std::max(room.height() - height(), 0)));
 }
 
 void SearchList::setHint(const QString& text) {
@@ -122,7 +193,12 @@ void SearchList::refresh() {
   model_->beginChange();
   lines_ = search(field_->text().trimmed());
   model_->endChange();
-  if (!lines_.empty()) list_->setCurrentIndex(model_->index(0));
+  setCurrentLine(0);
+  if (const auto corner = place_ ? place_() : std::nullopt) takePlace(*corner);
+}
+
+void SearchList::setCurrentLine(int index) {
+  if (index >= 0 && index < lineCount()) list_->setCurrentIndex(model_->index(index));
 }
 
 void SearchList::choose(int index) {
@@ -135,19 +211,20 @@ void SearchList::choose(int index) {
 
 void SearchList::chooseNext() {
   if (lines_.empty()) return;
-  choose((list_->currentIndex().row() + 1) % lineCount());
+  choose((currentLine() + 1) % lineCount());
 }
 
 void SearchList::step(int lines) {
   if (lines_.empty()) return;
-  const int row = std::clamp(list_->currentIndex().row() + lines, 0, lineCount() - 1);
-  list_->setCurrentIndex(model_->index(row));
+  setCurrentLine(std::clamp(currentLine() + lines, 0, lineCount() - 1));
 }
 
 void SearchList::dismiss() {
-  if (!isVisible()) return;
+  if (isHidden()) return;
+  const bool focused = field_->hasFocus();
   hide();
-  emit dismissed();
+  // Who has taken the focus keeps it.
+  if (focused) emit dismissed();
 }
 
 bool SearchList::keyPressed(int key) {
@@ -157,7 +234,7 @@ bool SearchList::keyPressed(int key) {
       return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      choose(list_->currentIndex().row());
+      choose(currentLine());
       return true;
     case Qt::Key_Down:
     case Qt::Key_Tab:
@@ -182,12 +259,22 @@ bool SearchList::keyPressed(int key) {
 }
 
 bool SearchList::eventFilter(QObject* object, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    return keyPressed(static_cast<QKeyEvent*>(event)->key());
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      return keyPressed(static_cast<QKeyEvent*>(event)->key());
+    case QEvent::ShortcutOverride: {
+      // Plain keys of the field are not the window's; of the others it takes those of a text.
+      constexpr auto kOthers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+      if (static_cast<QKeyEvent*>(event)->modifiers() & kOthers) break;
+      event->accept();
+      return true;
+    }
+    case QEvent::FocusOut:
+      if (isVisible() && leaves(*static_cast<QFocusEvent*>(event))) dismiss();
+      break;
+    default:
+      break;
   }
-  // Keys of the field are not the window's.
-  if (event->type() == QEvent::ShortcutOverride) event->accept();
-  if (event->type() == QEvent::FocusOut && isVisible()) dismiss();
   return QFrame::eventFilter(object, event);
 }
 

@@ -98,6 +98,8 @@ struct Wire {
   QRgb colour = 0;
 };
 
+inline constexpr QSizeF kSmallestNote(60, 40);
+
 /// A backdrop or a sticky note.
 struct NoteItem {
   orvlib::AnnotationRef annotation;

@@ -221,7 +221,7 @@ bool LevelScene::readNote(NoteItem& note) const {
   QRectF bounds = note.bounds;
   if (const auto at = placement::pointIn(metadata, placement::kPosition)) bounds.moveTopLeft(*at);
   if (const auto size = placement::pointIn(metadata, placement::kSize)) {
-    bounds.setSize({std::max(size->x(), 60.0), std::max(size->y(), 40.0)});
+    bounds.setSize(QSizeF(size->x(), size->y()).expandedTo(kSmallestNote));
   }
   QString text = placement::textIn(metadata, placement::kText);
   if (text.isEmpty() && note.isBackdrop()) text = QString::fromStdString(annotation.name());

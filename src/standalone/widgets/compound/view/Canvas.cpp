@@ -46,6 +46,7 @@ void Canvas::setZoom(qreal zoom, const QPointF& fixed) {
   zoom_ = std::clamp(zoom, kSmallestZoom, kLargestZoom);
   origin_ = fixed - scenePoint * pixels();
   update();
+  tellOfView();
 }
 
 /// By whole pixels of the device, so that what is painted can be moved along.
@@ -53,11 +54,13 @@ void Canvas::panBy(const QPointF& pixels) {
   const qreal ratio = devicePixelRatioF();
   origin_ += QPointF((pixels * ratio).toPoint()) / ratio;
   QWidget::update();
+  tellOfView();
 }
 
 void Canvas::centreOn(const QPointF& point) {
   origin_ = QPointF(width(), height()) / 2 - point * pixels();
   update();
+  tellOfView();
 }
 
 void Canvas::fit(const QRectF& area) {
@@ -123,12 +126,32 @@ bool Canvas::event(QEvent* event) {
     return true;
   }
   // The editor's keys are the editor's, also where the window has the same ones.
-  if (event->type() == QEvent::ShortcutOverride) {
-    event->accept();
+  if (event->type() == QEvent::ShortcutOverride && input_) {
+    event->setAccepted(input_->wantsKey(static_cast<QKeyEvent&>(*event)));
     return true;
   }
+  if (event->type() == QEvent::WindowDeactivate && input_) input_->interrupted();
   return QWidget::event(event);
 }
+
+void Canvas::tellOfView() {
+  if (input_) input_->viewChanged();
+}
+
+void Canvas::resizeEvent(QResizeEvent*) { tellOfView(); }
+
+void Canvas::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  if (input_) input_->interrupted();
+}
+
+void Canvas::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  if (input_) input_->interrupted();
+}
+
+/// The editor opens its menus itself.
+void Canvas::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
 
 void Canvas::mousePressEvent(QMouseEvent* event) {
   if (input_) input_->mousePressed(*event);

@@ -20,11 +20,20 @@ class CanvasInput {
   virtual void doubleClicked(QMouseEvent& event) = 0;
   virtual void wheelTurned(QWheelEvent& event) = 0;
 
+  /// Whether a key means something here; what does not is left to the window.
+  virtual bool wantsKey(const QKeyEvent& event) const = 0;
+
   /// False for a key that means nothing.
   virtual bool keyPressed(QKeyEvent& event) = 0;
   virtual void keyReleased(QKeyEvent& event) = 0;
   virtual QString toolTipAt(const QPointF& point) = 0;
   virtual void pointerLeft() = 0;
+
+  /// The focus, the window or the canvas itself is gone: no release of what is held down may come.
+  virtual void interrupted() = 0;
+
+  /// Another part of the scene is seen, or a part of another size.
+  virtual void viewChanged() = 0;
 
   /// Draws, in units of the canvas, what is going on.
   virtual void paintGesture(QPainter& painter, const PaintSettings& settings) = 0;
@@ -99,11 +108,16 @@ class ORVUI_EXPORT Canvas final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
  private:
   qreal pixels() const { return zoom_ * scene_.theme().scale(); }
   PaintSettings settings() const;
+  void tellOfView();
   void paintPicture(QPainter& painter);
   void paintNotice(QPainter& painter);
   QRect noticeArea() const;

@@ -48,6 +48,8 @@ bool isMenuKey(const QKeyEvent& event) {
 
 RangeSlider::RangeSlider(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
+  // A release that went elsewhere is seen by a move without a button.
+  setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
@@ -86,7 +88,9 @@ void RangeSlider::mousePressEvent(QMouseEvent* event) {
 }
 
 void RangeSlider::mouseMoveEvent(QMouseEvent* event) {
-  if (dragged_) moveTo(event->position().x());
+  if (!dragged_) return;
+  if (!(event->buttons() & Qt::LeftButton)) return cancel();
+  moveTo(event->position().x());
 }
 
 void RangeSlider::mouseReleaseEvent(QMouseEvent* event) {

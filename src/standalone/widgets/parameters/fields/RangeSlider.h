@@ -30,7 +30,8 @@ class ORVUI_EXPORT RangeSlider final : public QWidget {
   /// Fills the slider with the colours from its least to its most number; empty for a plain one.
   void setColours(const QList<QColor>& colours);
 
-  /// A drag, from the button or a key going down until it goes up or Escape is pressed.
+  /// A drag, from the button or a key going down until it goes up. It is cancelled by Escape, and
+  /// when the focus goes.
   std::function<void()> began;
   std::function<void(double)> moved;
   std::function<void()> ended;
@@ -49,10 +50,10 @@ class ORVUI_EXPORT RangeSlider final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void moveTo(double x);

@@ -48,6 +48,11 @@ TEST(Shortcuts, TheDocumentationHasTheSameTable) {
         QStringLiteral("| %1 | %2 |\n").arg(keys.join(", "), QString::fromLatin1(row.text));
     EXPECT_TRUE(page.contains(line)) << line.toStdString();
   }
+  for (const MouseRow& row : mouseTable()) {
+    const QString line = QStringLiteral("| %1 | %2 |\n")
+                             .arg(QString::fromLatin1(row.gesture), QString::fromLatin1(row.text));
+    EXPECT_TRUE(page.contains(line)) << line.toStdString();
+  }
 }
 
 }  // namespace
