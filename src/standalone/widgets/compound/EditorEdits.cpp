@@ -201,7 +201,7 @@ void CompoundEditorWidget::pasteAt(const QPointF& place) { select(edits::paste(s
 
 /// Of the selected nodes their first outputs, unless a port or a wire is current or pointed at.
 void CompoundEditorWidget::toggleWatch(const Hit& hit) {
-  const auto toggle = [this](PortObject& port) { edits::toggleWatchPoint(session_, port); };
+  const auto toggle = [this](orvlib::PortObject& port) { edits::toggleWatchPoint(session_, port); };
   const PortCursor& cursor = interaction_->cursor();
   if (cursor.port()) return toggle(*cursor.port());
   if (const Wire* wire = cursor.wire()) return toggle(*wire->source);

@@ -95,13 +95,13 @@ void CompoundEditorWidget::addAndSelect(const edits::NewNode& what, const edits:
 
 NodeObject* CompoundEditorWidget::addInto(const edits::Joint& joint, const edits::NewNode& what,
                                           const QPointF& at) {
-  const EditStep step(session_, QStringLiteral("Insert"));
+  EditStep step(session_, QStringLiteral("Insert"));
   NodeObject* node = edits::addNode(session_, what, {at, nullptr});
   if (!node) return nullptr;
   Wire wire;
   wire.source = joint.source;
   wire.target = joint.target;
-  edits::insertNode(session_, wire, *node);
+  step.require(edits::insertNode(session_, wire, *node));
   return node;
 }
 
