@@ -17,27 +17,6 @@ using orvlib::CompoundObject;
 using orvlib::NodeObject;
 using orvlib::PortObject;
 
-constexpr const char* kNames[] = {"a",          "add", "g",     "group", "in",    "out",
-                                  "x1",         "ünï", "a b",   "1",     "_",     "value",
-                                  "elements.m", "",    "frame", "note",  "{a,b}", "a.b"};
-constexpr const char* kTexts[] = {"",          "0",       "1",   "-1",         "0.5",
-                                  "true",      "text",    "a,b", "{a,b}",      "{1,2,3}",
-                                  "{}",        "{,}",     "nan", "1e40",       "{a=b}",
-                                  "{a={b,c}}", "{a=",     "\\",  "5",          "{0.1,0.2,0.3,1}",
-                                  "fixed",     "changes", "all", "2147483648", "漢字\n\"q\"",
-                                  "//",        ";"};
-constexpr const char* kKeys[] = {"k",    "locked", "editor.position", "editor.text", "a=b",
-                                 "unit", ""};
-constexpr const char* kLibraries[] = {"core",   "core::math", "core::user", "user",
-                                      "core::", "",           "::"};
-constexpr const char* kPublished[] = {"core::user::made", "core::made", "made", "core::math::add",
-                                      "core::user::",     "a b",        ""};
-constexpr const char* kSceneTypes[] = {"orvGraph", "group", "locator", "nobody"};
-constexpr const char* kStates[] = {"e", "f", "b", "enabled", "frozen", "x", ""};
-constexpr const char* kParameters[] = {"record", "limit", "format",
-                                       "digits", "value", "evaluation"};
-constexpr const char* kFiles[] = {"a.scene",     "b.scene",       "a.yaml",
-                                  "script.vesk", "nothing/there", "."};
 constexpr const char* kNumbers[] = {"0",     "1",          "2",           "1",         "0",
                                     "3",     "2",          "-1",          "7",         "100",
                                     "65536", "2147483647", "-2147483648", "4294967295"};
@@ -73,8 +52,7 @@ std::string SessionLines::line() {
   const unsigned choice = bytes_.byte();
   if (choice < 14) return "undo";
   if (choice < 24) return "redo";
-  if (choice < 28)
-    return "undoInfo -openChunk -chunkName \"" + std::string(bytes_.oneOf(kKeys)) + "\"";
+  if (choice < 28) return "undoInfo -openChunk -chunkName \"" + text(WordKind::Key) + "\"";
   if (choice < 32) return "undoInfo -closeChunk";
   if (choice < 160) return commandLine(bytes_.oneOf(kOften));
   const std::vector<std::string> all = world_.session().registry().names();
@@ -162,6 +140,14 @@ std::string SessionLines::freeText() {
 }
 
 std::string SessionLines::text(WordKind kind) {
+  const auto words = wordsOf(kind);
+  if (words.empty()) return nameInScene(kind);
+  if (kind == WordKind::File) return world_.files().path(bytes_.oneOf(words));
+  const bool mayBeFree = kind == WordKind::NewName || kind == WordKind::Text;
+  return mayBeFree && bytes_.rarely(6) ? freeText() : bytes_.oneOf(words);
+}
+
+std::string SessionLines::nameInScene(WordKind kind) {
   switch (kind) {
     case WordKind::SceneNode:
       return sceneNode();
@@ -171,12 +157,9 @@ std::string SessionLines::text(WordKind kind) {
       return level_ ? level_->node()->fullPath() : "/";
     case WordKind::Node:
       return node_ ? node_->fullPath() : "/";
-    case WordKind::Port:
-      return portPath();
     case WordKind::Source:
-      return endOfWire(true);
     case WordKind::Destination:
-      return endOfWire(false);
+      return endOfWire(kind == WordKind::Source);
     case WordKind::NodeName:
       return nodeName();
     case WordKind::NodeNames:
@@ -187,52 +170,28 @@ std::string SessionLines::text(WordKind kind) {
       return nodeName() + "." + portName();
     case WordKind::Annotation:
       return annotationName();
-    case WordKind::NewName:
-      return bytes_.rarely(8) ? freeText() : bytes_.oneOf(kNames);
     case WordKind::NodeType:
       return nodeType();
     case WordKind::DataType:
       return dataType();
-    case WordKind::Key:
-      return bytes_.oneOf(kKeys);
-    case WordKind::Published:
-      return bytes_.oneOf(kPublished);
-    case WordKind::Library:
-      return bytes_.oneOf(kLibraries);
-    case WordKind::Runtime:
-      return bytes_.rarely(4) ? "nobody" : "standard";
-    case WordKind::SceneType:
-      return bytes_.oneOf(kSceneTypes);
-    case WordKind::State:
-      return bytes_.oneOf(kStates);
-    case WordKind::Parameter:
-      return bytes_.oneOf(kParameters);
-    case WordKind::File:
-      return world_.files().path(bytes_.oneOf(kFiles));
-    case WordKind::Module:
-      return "veskOrvPlugin";
-    case WordKind::Command: {
-      const auto names = world_.session().registry().names();
-      return bytes_.oneOf(names);
-    }
     default:
-      return bytes_.rarely(4) ? freeText() : bytes_.oneOf(kTexts);
+      return portPath();
   }
 }
 
 std::string SessionLines::sceneNode() {
   const auto& nodes = world_.session().scene().nodes();
-  if (nodes.empty() || bytes_.rarely(12)) return bytes_.oneOf(kNames);
+  if (nodes.empty() || bytes_.rarely(12)) return text(WordKind::NewName);
   return bytes_.oneOf(nodes).second->name();
 }
 
 std::string SessionLines::nodeName() {
-  if (!level_ || level_->nodes().count() == 0) return bytes_.oneOf(kNames);
+  if (!level_ || level_->nodes().count() == 0) return text(WordKind::NewName);
   return level_->nodes().at(static_cast<unsigned>(bytes_.below(level_->nodes().count())))->name();
 }
 
 std::string SessionLines::annotationName() {
-  if (!level_ || level_->annotations().count() == 0) return bytes_.oneOf(kNames);
+  if (!level_ || level_->annotations().count() == 0) return text(WordKind::NewName);
   const std::size_t index = bytes_.below(level_->annotations().count());
   return level_->annotations().at(static_cast<unsigned>(index))->name();
 }
@@ -259,7 +218,7 @@ PortObject& SessionLines::childOf(PortObject& port) {
 std::string SessionLines::portName() {
   NodeObject* node = command_ == "orvCompound" && level_ ? level_->node() : node_;
   PortObject* found = node ? port(*node) : nullptr;
-  return found ? found->fullName() : bytes_.oneOf(kNames);
+  return found ? found->fullName() : text(WordKind::NewName);
 }
 
 /// A port in the level or of it.
@@ -295,7 +254,7 @@ std::string SessionLines::nodeType() {
     std::ranges::sort(names);
     return names;
   }();
-  return bytes_.rarely(6) ? bytes_.oneOf(kPublished) : bytes_.oneOf(kTypes);
+  return bytes_.rarely(6) ? text(WordKind::Published) : bytes_.oneOf(kTypes);
 }
 
 std::string SessionLines::dataType() {

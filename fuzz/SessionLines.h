@@ -23,6 +23,7 @@ class SessionLines {
 
   std::string word(vesk::ArgType type, WordKind kind);
   std::string text(WordKind kind);
+  std::string nameInScene(WordKind kind);
   std::string freeText();
   std::string confined(std::string text) const;
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace fuzz {
 
 /// What a word stands for.
 enum class WordKind : std::uint8_t {
-  Any,
   SceneNode,
   Graph,
   Compound,  // paths
@@ -24,9 +24,7 @@ enum class WordKind : std::uint8_t {
   NodeType,
   DataType,
   Key,
-  Text,
-  Values,
-  Properties,
+  Text,  // values and properties too
   Published,
   Library,
   Runtime,
@@ -39,8 +37,11 @@ enum class WordKind : std::uint8_t {
   Last
 };
 
+/// Words of that kind, odd ones among them; none where it names what is in the scene.
+std::span<const char* const> wordsOf(WordKind kind);
+
 /// What an argument of a flag, by its long name, and a positional argument of a command most likely
-/// is; `Any` where nobody said.
+/// is; `Text` where nobody said.
 WordKind kindOfFlagArgument(std::string_view flag, std::size_t argument);
 WordKind kindOfPositional(std::string_view command, std::size_t index);
 
