@@ -90,7 +90,7 @@ class PortEdits {
   bool find(NodeObject* node, const char* name, PortPlan::View& view);
   template <class One>
   bool record(PortPlan::View& view, One what) {
-    requests_.emplace_back(std::move(view.target), std::move(what));
+    requests_.push_back({std::move(view.target), std::move(what)});
     return true;
   }
   bool makeMember(NodeObject& node, std::string_view path, std::unique_ptr<Make> make,

@@ -83,7 +83,7 @@ bool PortEdits::recordMake(NodeObject& node, const std::string& path, PortPlan::
                            std::unique_ptr<Make> make) {
   view.target = {.made = makeCount_++};
   plan_.make(node, path, std::move(view));
-  requests_.emplace_back(PlannedPort(), std::move(make));
+  requests_.push_back({PlannedPort(), std::move(make)});
   return true;
 }
 

@@ -1,6 +1,9 @@
 #include "standalone/graph/edits/Transaction.h"
 
+#include <algorithm>
+
 #include "standalone/graph/edits/FaultPoints.h"
+#include "standalone/graph/edits/WireRules.h"
 
 namespace orvlib {
 namespace {
@@ -47,22 +50,30 @@ void Transaction::rollback() {
   }
 }
 
+/// Nodes move one after the other, and connections come along: in the end both ends of each have to
+/// be at one level again. They are not when somebody has connected a node since without an edit
+/// that can be taken back.
+bool Transaction::movedNodesFit() const {
+  return std::ranges::all_of(edits_, [](const Edit& edit) {
+    const auto* move = std::get_if<MoveNode>(&edit);
+    return !move || connectionsMatch(*move->node);
+  });
+}
+
 bool Transaction::revert() {
-  for (std::size_t done = edits_.size(); done > 0; --done) {
-    if (!refused(edits_[done - 1]) && orvlib::revert(edits_[done - 1])) continue;
-    for (; done < edits_.size(); ++done) apply(edits_[done]);
-    return false;
-  }
-  return true;
+  std::size_t done = edits_.size();
+  while (done > 0 && !refused(edits_[done - 1]) && orvlib::revert(edits_[done - 1])) --done;
+  if (done == 0 && movedNodesFit()) return true;
+  for (; done < edits_.size(); ++done) apply(edits_[done]);
+  return false;
 }
 
 bool Transaction::reapply() {
-  for (std::size_t done = 0; done < edits_.size(); ++done) {
-    if (!refused(edits_[done]) && apply(edits_[done])) continue;
-    while (done > 0) orvlib::revert(edits_[--done]);
-    return false;
-  }
-  return true;
+  std::size_t done = 0;
+  while (done < edits_.size() && !refused(edits_[done]) && apply(edits_[done])) ++done;
+  if (done == edits_.size() && movedNodesFit()) return true;
+  while (done > 0) orvlib::revert(edits_[--done]);
+  return false;
 }
 
 }  // namespace orvlib

@@ -39,6 +39,7 @@ class ORV_EXPORT Transaction {
 
  private:
   bool runLast();
+  bool movedNodesFit() const;
 
   absl::InlinedVector<Edit, 1> edits_;
 };

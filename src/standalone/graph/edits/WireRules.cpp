@@ -1,5 +1,7 @@
 #include "standalone/graph/edits/WireRules.h"
 
+#include <algorithm>
+
 #include "standalone/graph/model/CompoundObject.h"
 #include "standalone/graph/types/Conversion.h"
 
@@ -13,7 +15,28 @@ bool anyAboveConnected(const PortObject& port) {
   return false;
 }
 
+/// The same of the port and of those below it.
+bool connectionsMatch(const PortObject& port) {
+  const auto matches = [&port](const PortObject* peer) {
+    return port.isInput() ? facesMatch(*peer, port) : facesMatch(port, *peer);
+  };
+  if (!std::ranges::all_of(port.peers().items(), matches)) return false;
+  const PortListObject* children = port.madeChildren();
+  return !children || std::ranges::all_of(children->items(), [](const PortObject* child) {
+    return connectionsMatch(*child);
+  });
+}
+
 }  // namespace
+
+bool connectionsMatch(const NodeObject& node) {
+  // The ports that an input/output node lists are not its own.
+  const auto matches = [&node](const PortObject* port) {
+    return port->node() != &node || connectionsMatch(*port);
+  };
+  return std::ranges::all_of(node.inputList().items(), matches) &&
+         std::ranges::all_of(node.outputList().items(), matches);
+}
 
 bool anyConnectedBelow(const PortObject& port) {
   const PortListObject* children = port.madeChildren();

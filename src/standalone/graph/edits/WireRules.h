@@ -15,6 +15,9 @@ ORV_EXPORT bool canCarry(const PortObject& source, const PortObject& target);
 /// Whether `source` gives, `target` takes, and both are at one level.
 ORV_EXPORT bool facesMatch(const PortObject& source, const PortObject& target);
 
+/// Whether both ends of each connection of the node, as it is seen from outside, are at one level.
+ORV_EXPORT bool connectionsMatch(const NodeObject& node);
+
 /// Whether the connection can be made as things are: it is not there yet, the faces and types fit,
 /// and nothing else is connected to the target, to a port above it or to one below. Cycles are
 /// another question.

@@ -1,7 +1,5 @@
 #include "standalone/widgets/parameters/UndoStep.h"
 
-#include <ranges>
-
 #include "standalone/widgets/hooks/HookRegistry.h"
 #include "standalone/widgets/parameters/PortEdits.h"
 
@@ -20,8 +18,8 @@ UndoStep::UndoStep(bool several, const QString& what,
 }
 
 UndoStep::~UndoStep() {
-  for (orvlib::ContainerObject* graph : graphs_ | std::views::reverse) {
-    if (auto* hook = hookOf(graph->core())) hook->closeChangeBracket(graph);
+  for (auto graph = graphs_.rbegin(); graph != graphs_.rend(); ++graph) {
+    if (auto* hook = hookOf((*graph)->core())) hook->closeChangeBracket(*graph);
   }
   auto* services = HookRegistry::appServicesHook();
   if (hasChunk_ && services) services->closeUndoChunk();

@@ -68,6 +68,30 @@ TEST_F(PasteCommandTest, PastesValuesMetadataAndWatchPoints) {
   EXPECT_NE(port("/a1.result")->watchPoint(), nullptr);
 }
 
+/// Such a connection would be left with one end in no graph.
+TEST_F(PasteCommandTest, IsNotTakenBackWhileSomethingElseIsConnectedToIt) {
+  copy({"b"});
+  const std::string before = text();
+  ASSERT_TRUE(command_.doit());
+  connect("/first.result", "/b1.b");
+  const std::string connected = text();
+  EXPECT_FALSE(command_.undo());
+  EXPECT_EQ(text(), connected);
+  ASSERT_TRUE(disconnect("/first.result", "/b1.b"));
+  EXPECT_TRUE(command_.undo());
+  EXPECT_EQ(text(), before);
+}
+
+TEST_F(PasteCommandTest, IsNotTakenBackWhileSomethingElseIsConnectedToAComponent) {
+  add(top(), "core::color::mix3", "mix");
+  copy({"mix"});
+  ASSERT_TRUE(command_.doit());
+  connect("/first.result", "/mix1.a.r");
+  const std::string connected = text();
+  EXPECT_FALSE(command_.undo());
+  EXPECT_EQ(text(), connected);
+}
+
 TEST_F(PasteCommandTest, CanDuplicateTheConnectionsFromOutside) {
   copy({"a"});
   const std::string before = text();
