@@ -8,23 +8,15 @@
 
 namespace fuzz {
 
-/// A folder of its own, in memory where the machine has such a place.
+/// A folder of its own, among the temporary files.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    const char* memory = "/dev/shm";
-    std::error_code error;
-    const bool there = std::filesystem::is_directory(memory, error);
-    const auto root =
-        there ? std::filesystem::path(memory) : std::filesystem::temp_directory_path();
-    std::string pattern = (root / "vesk-fuzz-XXXXXX").string();
+    std::string pattern = (std::filesystem::temp_directory_path() / "vesk-fuzz-XXXXXX").string();
     if (!mkdtemp(pattern.data())) std::abort();
     folder_ = pattern;
   }
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
+  ~TemporaryFolder() { remove(); }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
@@ -37,6 +29,12 @@ class TemporaryFolder {
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << bytes;
     return file.string();
+  }
+
+  /// Takes it away ahead of its end.
+  void remove() const {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
   }
 
   /// Takes out what is in it.

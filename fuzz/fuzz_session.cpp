@@ -103,10 +103,12 @@ class Run {
   bool exact_ = true;
 };
 
-/// It is never taken down: libFuzzer still reads what the module counted.
+/// It is never taken down, but for its files: libFuzzer still reads what the module counted.
 SessionWorld& world() {
-  static auto* const world = new SessionWorld;
-  return *world;
+  static auto* const instance = new SessionWorld;
+  static const int cleaning = std::atexit([] { instance->files().remove(); });
+  require(cleaning == 0, "the files are taken away at the end");
+  return *instance;
 }
 
 }  // namespace
