@@ -91,7 +91,7 @@ constexpr MouseRow kMouseRows[] = {
     {"drag a wire's end off its input", "moves the wire; into empty space it goes"},
     {"drag a wire onto \"+ port\"", "makes a port of that type, connected"},
     {"click on \"+ port\"", "makes a port, of a type to choose"},
-    {"drag a port of the boundary", "moves it among its like"},
+    {"drag a port of the boundary", "moves it among its like; beyond the end, to the end"},
     {"drag the corner of a note", "makes it larger or smaller"},
     {"double click on a title or a note", "changes its text in place; a port's too"},
     {"double click on a compound", "goes in"},
