@@ -6,6 +6,7 @@
 #include <QStaticText>
 #include <QString>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "standalone/graph/model/AnnotationObject.h"
@@ -104,6 +105,7 @@ inline constexpr QSizeF kSmallestNote(60, 40);
 struct NoteItem {
   orvlib::AnnotationRef annotation;
   QRectF bounds;
+  std::optional<QPointF> freePlace;  ///< where it lies as long as the graph says nothing of that
   GridPlace place;
   QString text;
   QRgb colour = 0;

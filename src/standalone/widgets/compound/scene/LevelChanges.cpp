@@ -188,10 +188,10 @@ NoteItem& LevelScene::addNote(orvlib::AnnotationObject& annotation) {
   auto made = std::make_unique<NoteItem>();
   NoteItem& note = *made;
   note.annotation = orvlib::AnnotationRef(&annotation);
-  note.bounds = note.isBackdrop() ? kNewBackdrop : kNewNote;
   readNote(note);
   if (!placement::pointIn(annotation.metadata(), placement::kPosition)) {
-    note.bounds.moveTopLeft(freePlaceForNote(note.bounds));
+    note.freePlace = freePlaceForNote(note.bounds);
+    note.bounds.moveTopLeft(*note.freePlace);
   }
   noteGrid_.insert(note);
   notes_.emplace(&annotation, std::move(made));
@@ -218,7 +218,8 @@ QPointF LevelScene::freePlaceForNote(const QRectF& bounds) const {
 bool LevelScene::readNote(NoteItem& note) const {
   const orvlib::AnnotationObject& annotation = *note.annotation;
   const auto& metadata = annotation.metadata();
-  QRectF bounds = note.bounds;
+  QRectF bounds = note.isBackdrop() ? kNewBackdrop : kNewNote;
+  bounds.moveTopLeft(note.freePlace.value_or(note.bounds.topLeft()));
   if (const auto at = placement::pointIn(metadata, placement::kPosition)) bounds.moveTopLeft(*at);
   if (const auto size = placement::pointIn(metadata, placement::kSize)) {
     bounds.setSize(QSizeF(size->x(), size->y()).expandedTo(kSmallestNote));

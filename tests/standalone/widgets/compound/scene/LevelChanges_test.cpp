@@ -17,7 +17,7 @@ class LevelChangesTest : public CommandTest, private orvlib::ChangeListener {
   orvlib::ContainerObject& container() { return static_cast<orvlib::ContainerObject&>(graph); }
   void graphChanged(orvlib::ContainerObject&,
                     std::span<const orvlib::NodeChange> changes) override {
-    touched = scene.follow(changes);
+    touched = scene.follow(changes).bounds();
   }
   BoxItem* box(const char* path) { return scene.find(container().findNode(path)); }
   QColor typeColour(const char* type) const { return theme.typeColour(type); }
@@ -37,6 +37,19 @@ TEST_F(LevelChangesTest, AWireHasTheColourOfItsSourceWhenThatBecomesAnotherType)
   const Wire& wire = *box("/inner")->leaving.at(0);
   EXPECT_EQ(wire.colour, typeColour("float").rgb());
   EXPECT_TRUE(touched.contains(wire.bounds));
+}
+
+TEST_F(LevelChangesTest, ANoteGoesBackToItsPlaceAndSizeWhenThoseAreUndone) {
+  host.run("orvCompound g / -addStickyNote note");
+  NoteItem* note = scene.find(container().top().annotations().items().front());
+  ASSERT_TRUE(note);
+  const QRectF before = note->bounds;
+  host.run("orvCompound g / -setAnnotationMetaDataValue note editor.position \"300,200\"");
+  host.run("orvCompound g / -setAnnotationMetaDataValue note editor.size \"400,300\"");
+  ASSERT_EQ(note->bounds, QRectF(300, 200, 400, 300));
+  host.run("undo; undo");
+  EXPECT_EQ(note->bounds, before);
+  EXPECT_TRUE(touched.contains(before));
 }
 
 }  // namespace
