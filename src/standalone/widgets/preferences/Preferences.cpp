@@ -12,7 +12,9 @@ Preferences& Preferences::instance() {
   return only;
 }
 
+/// What somebody gave counts, whatever is stored.
 void Preferences::replaceAll(const QJsonObject& preferences) {
+  loadedRound_ = HookRegistry::servicesRound();
   if (preferences == all_) return;
   all_ = preferences;
   everHadAny_ = true;

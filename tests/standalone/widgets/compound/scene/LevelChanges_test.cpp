@@ -41,7 +41,7 @@ TEST_F(LevelChangesTest, AWireHasTheColourOfItsSourceWhenThatBecomesAnotherType)
 
 TEST_F(LevelChangesTest, ANoteGoesBackToItsPlaceAndSizeWhenThoseAreUndone) {
   host.run("orvCompound g / -addStickyNote note");
-  NoteItem* note = scene.find(container().top().annotations().items().front());
+  NoteItem* note = scene.find(scene.level()->annotations().items().front());
   ASSERT_TRUE(note);
   const QRectF before = note->bounds;
   host.run("orvCompound g / -setAnnotationMetaDataValue note editor.position \"300,200\"");
