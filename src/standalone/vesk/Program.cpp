@@ -95,7 +95,10 @@ int runAll(const ProgramOptions& options, LineListener& listener, Console& conso
   if (gui) std::cout << std::unitbuf;
   LineRunner runner(platform, listener, options.keepGoing || !options.batch,
                     gui ? Gui::settleSometimes : nullptr);
-  if (journal) takeUpJournals(options, session, *journal, options.batch ? nullptr : window.get());
+  if (keepsJournal(options)) {
+    takeUpJournals(options, session, journal.get(), options.batch ? nullptr : window.get());
+    if (options.recover && !journal) return kCannotStart;
+  }
   if (options.batch) {
     runner.run(options.inputs.empty() ? standardInput() : *inputs, true);
   } else if (gui) {

@@ -57,13 +57,15 @@ void Journal::note(std::string_view text) {
 
 void Journal::write(std::string_view line, const RunOptions& options, KStatus status) {
   if (file_ < 0) return;
+  const TokenizedText read = tokenize(line);
+  if (!read.error && read.statements.empty()) return;
   if (options.leftByLine) return note("when idle: " + std::string(line));
   std::string unusual;
   if (!options.undo) unusual += " without undo";
   if (!options.display) unusual += " without echo";
   if (!status) unusual += " failed with status " + std::to_string(status.statusCode());
   if (!unusual.empty()) append("//" + unusual);
-  append(tokenize(line).error ? "// not readable: " + printable(line) : std::string(line));
+  append(read.error ? "// not readable: " + printable(line) : std::string(line));
 }
 
 /// At one go: where the program ends amid a line, all of it is there or nothing.
@@ -83,8 +85,12 @@ bool Journal::isWritten(std::string_view bytes) {
   }
   if (Clock::now() < nextSync_) return true;
   nextSync_ = Clock::now() + kSyncInterval;
-  // What cannot be synced, such as a pipe, is written all the same.
-  return fdatasync(file_) == 0 || errno == EINVAL || errno == EROFS;
+  return sync();
+}
+
+/// What cannot be synced, such as a pipe, is written all the same.
+bool Journal::sync() {
+  return file_ >= 0 && (fdatasync(file_) == 0 || errno == EINVAL || errno == EROFS);
 }
 
 }  // namespace vesk

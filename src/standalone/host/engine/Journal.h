@@ -10,7 +10,8 @@
 
 namespace vesk {
 
-/// A file of the lines that were run, in order; it is itself a script.
+/// A file of the lines that were run, in order; it is itself a script. Lines that are but comments
+/// are left out: each comment in it is the journal's own.
 ///
 /// Only lines that no other command ran are written, each when it has finished. Comments ahead of a
 /// line tell what it showed and what is unusual about it: run without undo or echo, or failed. A
@@ -29,6 +30,10 @@ class Journal {
   /// Begins the file anew. False, with nothing written later, when it cannot be written.
   bool open(const std::string& path);
   void close();
+  bool isOpen() const { return file_ >= 0; }
+
+  /// Has what was written put on the disk. False when it cannot be, or no journal is open.
+  bool sync();
 
   /// When the file can no longer be written, the user is told once.
   void write(std::string_view line, const RunOptions& options, KStatus status);

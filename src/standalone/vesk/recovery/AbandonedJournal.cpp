@@ -3,7 +3,9 @@
 #include <unistd.h>
 
 #include <QDateTime>
-#include <QDir>
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
 #include <utility>
 
 #include "standalone/host/engine/AtomicFile.h"
@@ -14,27 +16,29 @@
 namespace vesk {
 namespace {
 
-/// The path in the comment on an opened scene; empty for any other comment.
-std::string openedPath(std::string_view comment) {
-  const TokenizedText text = tokenize(comment.substr(std::string_view("// ").size()));
-  if (text.error || text.statements.size() != 1) return {};
-  const auto& tokens = text.statements.front().tokens;
-  const bool opened = tokens.size() == 2 && tokens[0].text + " " == kOpenedMark;
-  return opened ? tokens[1].text : std::string();
+namespace fs = std::filesystem;
+
+std::vector<std::string> journalsIn(const std::string& folder) {
+  std::vector<std::string> paths;
+  std::error_code none;
+  for (const auto& entry : fs::directory_iterator(folder, none)) {
+    if (isJournalName(entry.path().filename().string())) paths.push_back(entry.path().string());
+  }
+  std::ranges::sort(paths, std::ranges::greater());
+  return paths;
 }
 
 }  // namespace
 
 std::vector<AbandonedJournal> AbandonedJournal::listIn(const std::string& folder) {
-  const QDir journals(QString::fromStdString(folder));
+  removeLeftovers(folder);
   std::vector<AbandonedJournal> found;
-  for (const QString& name : journals.entryList({"*" + QString::fromUtf8(kJournalEnding)},
-                                                QDir::Files, QDir::Name | QDir::Reversed)) {
-    const std::string path = journals.filePath(name).toStdString();
+  for (const std::string& path : journalsIn(folder)) {
     const int lock = lockFile(path);
     if (lock < 0) continue;
     AbandonedJournal journal(path, lock);
-    if (journal.lines_.empty()) {
+    if (!journal.read()) continue;
+    if (journal.lines_.empty() || fs::exists(journal.recovering_)) {
       journal.remove();
     } else {
       found.push_back(std::move(journal));
@@ -46,14 +50,18 @@ std::vector<AbandonedJournal> AbandonedJournal::listIn(const std::string& folder
 AbandonedJournal::AbandonedJournal(AbandonedJournal&& other) noexcept
     : path_(std::move(other.path_)),
       lock_(std::exchange(other.lock_, -1)),
-      lines_(std::move(other.lines_)),
-      scenes_(std::move(other.scenes_)) {}
+      folder_(std::move(other.folder_)),
+      recovering_(std::move(other.recovering_)),
+      copies_(other.copies_),
+      lines_(std::move(other.lines_)) {}
 
 AbandonedJournal& AbandonedJournal::operator=(AbandonedJournal&& other) noexcept {
   std::swap(path_, other.path_);
   std::swap(lock_, other.lock_);
+  std::swap(folder_, other.folder_);
+  std::swap(recovering_, other.recovering_);
+  std::swap(copies_, other.copies_);
   std::swap(lines_, other.lines_);
-  std::swap(scenes_, other.scenes_);
   return *this;
 }
 
@@ -61,30 +69,56 @@ AbandonedJournal::~AbandonedJournal() {
   if (lock_ >= 0) ::close(lock_);
 }
 
-/// A line without its end was not finished.
-void AbandonedJournal::read() {
+/// A line without its end was not finished. False when the file cannot be read.
+bool AbandonedJournal::read() {
   std::string reason;
   const auto text = readWholeFile(path_, reason);
-  if (!text) return;
+  if (!text) return false;
   const std::string_view whole = std::string_view(*text).substr(0, text->rfind('\n') + 1);
   Line next;
   forEachLine(whole, [&](std::string_view line, std::size_t) {
-    if (!isCommentLine(line)) {
+    if (isCommentLine(line)) {
+      readComment(line, next);
+    } else {
       next.text = line;
       lines_.push_back(std::exchange(next, {}));
-    } else if (line.starts_with("// " + std::string(kOpenedMark))) {
-      const int number = static_cast<int>(scenes_.size()) + 1;
-      scenes_.push_back({openedPath(line), copyOfScene(path_, number)});
-    } else if (!line.starts_with("// Error: ") && !line.starts_with("// Warning: ")) {
-      next.undo &= line.find(" without undo") == std::string_view::npos;
-      next.display &= line.find(" without echo") == std::string_view::npos;
     }
     return true;
   });
+  return true;
+}
+
+void AbandonedJournal::readComment(std::string_view comment, Line& next) {
+  constexpr std::string_view kWithout = "// without ", kIdle = "// when idle: ";
+  if (comment.starts_with(kWithout)) {
+    next.undo = comment.find("without undo") == std::string_view::npos;
+    next.display = comment.find("without echo") == std::string_view::npos;
+  } else if (comment.starts_with(kIdle) && !lines_.empty()) {
+    // What an idle line did belongs to the line that left it.
+    std::ranges::move(next.uses, std::back_inserter(lines_.back().uses));
+    next.uses.clear();
+  } else if (comment.starts_with("// ")) {
+    const TokenizedText text = tokenize(comment.substr(3));
+    if (text.error || text.statements.size() != 1) return;
+    const auto& tokens = text.statements.front().tokens;
+    if (tokens.size() == 2) readMark(tokens[0].text, tokens[1].text, next);
+  }
+}
+
+void AbandonedJournal::readMark(std::string_view mark, const std::string& path, Line& next) {
+  if (mark == mark::kFolder) folder_ = path;
+  if (mark == mark::kRecovers) recovering_ = path;
+  if (mark == mark::kRecovered) recovering_.clear();
+  if (mark == mark::kOpened) {
+    next.uses.push_back({path, false, true, copyOfScene(path_, ++copies_)});
+  }
+  if (mark == mark::kNotOpened) next.uses.push_back({path, false, false});
+  if (mark == mark::kSaved) next.uses.push_back({path, true, true});
+  if (mark == mark::kNotSaved) next.uses.push_back({path, true, false});
 }
 
 std::string AbandonedJournal::began() const {
-  const QString name = QDir(QString::fromStdString(path_)).dirName();
+  const QString name = QString::fromStdString(fs::path(path_).filename().string());
   QDateTime time = QDateTime::fromString(name.left(15), "yyyyMMdd-HHmmss");
   time.setTimeSpec(Qt::UTC);
   return time.toLocalTime().toString("yyyy-MM-dd HH:mm").toStdString();
@@ -93,7 +127,6 @@ std::string AbandonedJournal::began() const {
 void AbandonedJournal::remove() {
   removeJournal(path_);
   lines_.clear();
-  scenes_.clear();
 }
 
 }  // namespace vesk

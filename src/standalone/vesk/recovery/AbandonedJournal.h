@@ -9,30 +9,36 @@ namespace vesk {
 /// object is there.
 class AbandonedJournal {
  public:
+  /// What a line did with the file of a scene.
+  struct FileUse {
+    std::string path;
+    bool saves = false;  ///< else it opens
+    bool succeeded = false;
+    std::string copy = {};  ///< the file with the bytes that were read, where some were
+  };
+
   struct Line {
     std::string text;
-    bool undo = true;     ///< its edits entered the undo queue
-    bool display = true;  ///< it was echoed
+    bool undo = true;                ///< its edits entered the undo queue
+    bool display = true;             ///< it was echoed
+    std::vector<FileUse> uses = {};  ///< in order
   };
 
-  /// A scene that was opened: its file may say something else by now.
-  struct Scene {
-    std::string path;
-    std::string copy;  ///< the file that has the bytes that were read
-  };
-
-  /// Journals of which the lock is free, the newest first. Those without a line are removed.
+  /// Journals of which the lock is free, the newest first. Those without a line are removed, and
+  /// those of a recovery that was cut off, since what it recovered is still there.
   static std::vector<AbandonedJournal> listIn(const std::string& folder);
 
   AbandonedJournal(AbandonedJournal&& other) noexcept;
   AbandonedJournal& operator=(AbandonedJournal&& other) noexcept;
   ~AbandonedJournal();
 
+  const std::string& path() const { return path_; }
+
   /// Those that were finished, in order.
   const std::vector<Line>& lines() const { return lines_; }
 
-  /// In the order in which they were opened.
-  const std::vector<Scene>& scenes() const { return scenes_; }
+  /// In which the program worked; empty when that is unknown.
+  const std::string& folder() const { return folder_; }
 
   /// When the program began, such as "2026-11-21 23:45", in local time.
   std::string began() const;
@@ -41,14 +47,18 @@ class AbandonedJournal {
   void remove();
 
  private:
-  AbandonedJournal(std::string path, int lock) : path_(std::move(path)), lock_(lock) { read(); }
+  AbandonedJournal(std::string path, int lock) : path_(std::move(path)), lock_(lock) {}
 
-  void read();
+  bool read();
+  void readComment(std::string_view comment, Line& next);
+  void readMark(std::string_view mark, const std::string& path, Line& next);
 
   std::string path_;
   int lock_;  ///< descriptor
+  std::string folder_;
+  std::string recovering_;  ///< the journal that was being recovered at the end
+  int copies_ = 0;
   std::vector<Line> lines_;
-  std::vector<Scene> scenes_;
 };
 
 }  // namespace vesk

@@ -18,9 +18,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Later names sort behind earlier ones.
 std::string nameOfNow() {
-  const QDateTime now = QDateTime::currentDateTimeUtc();
-  return now.toString("yyyyMMdd-HHmmss-").toStdString() + std::to_string(getpid());
+  const QString time = QDateTime::currentDateTimeUtc().toString("yyyyMMdd-HHmmss-");
+  return (time + QString::number(getpid()).rightJustified(7, '0')).toStdString();
 }
 
 std::string failure(const std::string& path) {
@@ -60,31 +61,48 @@ std::unique_ptr<KeptJournal> KeptJournal::begin(const std::string& folder, HostS
 KeptJournal::KeptJournal(std::string path, int lock, HostSession& session)
     : path_(std::move(path)), lock_(lock), session_(session), store_(&session.scene().store()) {
   session.scene().setStore(*this);
+  std::error_code unknown;
+  note(mark::kFolder, fs::current_path(unknown).string());
 }
 
 KeptJournal::~KeptJournal() {
   session_.scene().setStore(*store_);
+  const bool unsaved = session_.scene().isModified() && !session_.quitRequested;
   session_.journal().close();
-  removeJournal(path_);
+  if (!keepsUnsavedWork_ || !unsaved) removeJournal(path_);
   ::close(lock_);
 }
+
+bool KeptJournal::isSafe() { return !lacksCopy_ && session_.journal().sync(); }
 
 /// The copy is there before the line that opens the scene is.
 std::optional<std::string> KeptJournal::read(const std::string& path, std::string& reason) {
   auto bytes = store_->read(path, reason);
-  if (!bytes) return bytes;
-  const std::string problem = writeAtomically(copyOfScene(path_, opened_ + 1), *bytes);
-  if (problem.empty()) {
+  if (bytes && keepsCopy(*bytes, path)) {
     ++opened_;
-    session_.journal().note(std::string(kOpenedMark) + vesk::quoted(path));
+    note(mark::kOpened, path);
   } else {
-    session_.messages().warning("the journal cannot keep " + vesk::quoted(path) + ": " + problem);
+    note(mark::kNotOpened, path);
   }
   return bytes;
 }
 
+bool KeptJournal::keepsCopy(std::string_view bytes, const std::string& path) {
+  const std::string problem = writeAtomically(copyOfScene(path_, opened_ + 1), bytes);
+  if (problem.empty()) return true;
+  lacksCopy_ = true;
+  session_.messages().warning("the journal cannot keep " + vesk::quoted(path) + ": " + problem);
+  return false;
+}
+
 std::string KeptJournal::write(const std::string& path, std::string_view bytes) {
-  return store_->write(path, bytes);
+  const std::string problem = store_->write(path, bytes);
+  note(problem.empty() ? mark::kSaved : mark::kNotSaved, path);
+  return problem;
+}
+
+void KeptJournal::note(std::string_view mark, const std::string& path) {
+  session_.journal().note(markText(mark, path));
 }
 
 }  // namespace vesk

@@ -4,7 +4,7 @@
 #include <QPushButton>
 
 #include "standalone/host/engine/HostSession.h"
-#include "standalone/host/language/Tokenizer.h"
+#include "standalone/host/scene/Scene.h"
 #include "standalone/vesk/ProgramOptions.h"
 #include "standalone/vesk/recovery/AbandonedJournal.h"
 #include "standalone/vesk/recovery/KeptJournal.h"
@@ -29,17 +29,31 @@ void runAgain(AbandonedJournal& journal, HostSession& session, KeptJournal& kept
   std::string text = countOf(recovered.lines, "line") + " of it ran again";
   if (recovered.failed > 0) text += ", " + std::to_string(recovered.failed) + " of them failed";
   session.messages().print(text);
+  if (!recovered.isSafe) {
+    session.messages().warning("the journal of now cannot be written whole; the old one stays");
+  }
 }
 
-void recoverNewest(Journals& journals, HostSession& session, KeptJournal& kept) {
+void recoverNewest(Journals& journals, HostSession& session, KeptJournal* kept) {
   if (journals.empty()) return session.messages().warning("there is nothing to recover");
+  if (!kept) return session.messages().error("without a journal nothing can be recovered");
   session.messages().print(describe(journals.front()));
-  runAgain(journals.front(), session, kept);
+  runAgain(journals.front(), session, *kept);
 }
 
 void discard(Journals& journals, HostSession& session) {
   for (AbandonedJournal& journal : journals) journal.remove();
   session.messages().print(countOf(journals.size(), "abandoned session") + " discarded");
+}
+
+std::string question(const Journals& journals, HostSession& session) {
+  const AbandonedJournal& newest = journals.front();
+  std::string text = "It began on " + newest.began() + " and ran " +
+                     countOf(newest.lines().size(), "line") +
+                     ", which can be run again in a new scene.";
+  if (session.scene().isModified()) text += " The scene of now has unsaved changes: they go.";
+  if (journals.size() > 1) text += " Older sessions are offered at the next start.";
+  return text;
 }
 
 /// The journals stay locked until the user has chosen: no other program offers them meanwhile.
@@ -50,10 +64,7 @@ void ask(QWidget& window, Journals&& found, HostSession& session, KeptJournal& k
   box->setObjectName("recovery");
   box->setIcon(QMessageBox::Question);
   box->setText(QMessageBox::tr("The last session ended abruptly."));
-  box->setInformativeText(QMessageBox::tr("It began on %1 and ran %n line(s). They can be run "
-                                          "again in a new scene.",
-                                          nullptr, int(journals->front().lines().size()))
-                              .arg(QString::fromStdString(journals->front().began())));
+  box->setInformativeText(QString::fromStdString(question(*journals, session)));
   QPushButton* again = box->addButton(QMessageBox::tr("Recover"), QMessageBox::AcceptRole);
   QPushButton* never = box->addButton(QMessageBox::tr("Discard"), QMessageBox::DestructiveRole);
   box->setEscapeButton(box->addButton(QMessageBox::tr("Later"), QMessageBox::RejectRole));
@@ -84,13 +95,13 @@ std::unique_ptr<KeptJournal> keepJournal(HostSession& session) {
   return kept;
 }
 
-void takeUpJournals(const ProgramOptions& options, HostSession& session, KeptJournal& kept,
+void takeUpJournals(const ProgramOptions& options, HostSession& session, KeptJournal* kept,
                     QWidget* window) {
   Journals journals = AbandonedJournal::listIn(journalFolder(session));
   if (options.recover) return recoverNewest(journals, session, kept);
   if (options.discard) return discard(journals, session);
   if (journals.empty()) return;
-  if (window) return ask(*window, std::move(journals), session, kept);
+  if (window && kept) return ask(*window, std::move(journals), session, *kept);
   session.messages().warning(describe(journals.front()) + "; vesk --recover runs them again, " +
                              "--discard forgets them");
 }

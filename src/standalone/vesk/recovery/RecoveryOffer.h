@@ -24,8 +24,8 @@ bool keepsJournal(const ProgramOptions& options);
 std::unique_ptr<KeptJournal> keepJournal(HostSession& session);
 
 /// Recovers, discards or tells of what abrupt ends left, as the options ask for it. In front of a
-/// window, which may be null, the user is asked.
-void takeUpJournals(const ProgramOptions& options, HostSession& session, KeptJournal& kept,
+/// window the user is asked. Without a journal of its own (`kept` null) nothing is recovered.
+void takeUpJournals(const ProgramOptions& options, HostSession& session, KeptJournal* kept,
                     QWidget* window);
 
 }  // namespace vesk

@@ -2,8 +2,15 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractButton>
+#include <QMessageBox>
 #include <filesystem>
+#include <sstream>
 
+#include "standalone/vesk/Gui.h"
+#include "standalone/vesk/Startup.h"
+#include "standalone/vesk/recovery/KeptJournal.h"
+#include "standalone/vesk/recovery/RecoveryOffer.h"
 #include "tests/standalone/vesk/recovery/RecoveryTesting.h"
 
 namespace {
@@ -73,7 +80,7 @@ TEST_F(Recovery, RunsTheLinesAgain) {
           R"(createNode orvGraph -name "g")", R"(orvCompound "g" "/" -addNode "core::math::add")"});
   const ProgramRun next = vesk({"--recover"},
                                "ls\norvCompound \"g\" \"/\" -listNodes\nundo\n"
-                               "orvCompound \"g\" \"/\" -listNodes\n");
+                               "orvCompound \"g\" \"/\" -listNodes\nquit\n");
   EXPECT_THAT(next.out, HasSubstr("10 lines of it ran again\na\ng\nadd\n"));
   EXPECT_THAT(next.err, IsEmpty()) << "the undo queue is there too";
   EXPECT_THAT(journals(), IsEmpty());
@@ -128,9 +135,10 @@ TEST_F(Recovery, TheNewestIsTakenUpFirst) {
   cutOff({"createNode group -name older"});
   std::this_thread::sleep_for(std::chrono::milliseconds(1100));
   cutOff({"createNode group -name newer"});
-  EXPECT_THAT(vesk({"--recover"}, "ls\n").out, HasSubstr("\nnewer\n"));
-  EXPECT_THAT(vesk({"--recover"}, "ls\n").out, HasSubstr("\nolder\n"));
-  EXPECT_THAT(vesk({"--recover"}, "ls\n").err, HasSubstr("Warning: there is nothing to recover\n"));
+  EXPECT_THAT(vesk({"--recover"}, "ls\nquit\n").out, HasSubstr("\nnewer\n"));
+  EXPECT_THAT(vesk({"--recover"}, "ls\nquit\n").out, HasSubstr("\nolder\n"));
+  EXPECT_THAT(vesk({"--recover"}, "ls\nquit\n").err,
+              HasSubstr("Warning: there is nothing to recover\n"));
 }
 
 TEST_F(Recovery, WhatIsDiscardedIsGone) {
@@ -164,6 +172,123 @@ TEST_F(Recovery, AnEndWithoutALineIsNoneToTellOf) {
     program.kill();
   }
   EXPECT_THAT(vesk({}, "ls\n").err, Not(HasSubstr("abruptly")));
+}
+
+TEST_F(Recovery, APathIsThatOfTheFolderOfThen) {
+  vesk({"-c", "createNode group -name a", "-c", "file -saveAs " + quoted(file("s.vesk"))});
+  {
+    FedProgram program(preferences, {}, folder.path().string());
+    program.run("file -open s.vesk");
+    program.run("createNode group -name b");
+    program.kill();
+  }
+  const ProgramRun next = vesk({"--recover"}, "ls\nfile -q -path\n");
+  EXPECT_THAT(next.out, EndsWith("\na\nb\n" + file("s.vesk") + "\n"));
+  EXPECT_THAT(next.err, IsEmpty());
+}
+
+TEST_F(Recovery, ASaveThatFailedFailsAgain) {
+  cutOff({"createNode group -name a", "file -saveAs " + quoted(file("none/s.vesk"))});
+  const ProgramRun next = vesk({"--recover"}, "file -q -path\nfile -q -modified\n");
+  EXPECT_THAT(next.out, EndsWith("1 of them failed\n\ntrue\n"));
+  EXPECT_THAT(next.err, HasSubstr("it could not be saved then"));
+}
+
+TEST_F(Recovery, AnOpenThatFailedFailsAgainThoughTheFileIsThereByNow) {
+  cutOff({"createNode group -name a", "file -force -open " + quoted(file("s.vesk"))});
+  vesk({"-c", "createNode group -name other", "-c", "file -saveAs " + quoted(file("s.vesk"))});
+  EXPECT_THAT(vesk({"--recover"}, "ls\n").out, EndsWith("1 of them failed\na\n"));
+}
+
+TEST_F(Recovery, EachOpenFindsTheSceneOfThen) {
+  const std::string path = quoted(file("s.vesk"));
+  cutOff({"file -force -open " + path, "createNode group -name a", "file -saveAs " + path,
+          "createNode group -name b", "file -save", "file -open " + path,
+          "createNode group -name c"});
+  vesk({"-c", "createNode group -name other", "-c", "file -saveAs " + path});
+  EXPECT_THAT(vesk({"--recover"}, "ls\n").out, EndsWith("\na\nb\nc\n"));
+}
+
+TEST_F(Recovery, WhatAUserSaysInACommentIsNoMark) {
+  cutOff({"// this is without undo", "createNode group -name a", "// opened \"zzz\"",
+          "// in \"/nowhere\""});
+  const ProgramRun next = vesk({"--recover"}, "undo\nls\n");
+  EXPECT_THAT(next.out, Not(HasSubstr("\na\n")));
+  EXPECT_THAT(next.err, IsEmpty());
+}
+
+TEST_F(Recovery, WhatIsNotSavedIsThereStillWhenNothingFollows) {
+  cutOff({"createNode group -name a"});
+  EXPECT_THAT(vesk({"--recover"}).out, HasSubstr("ran again"));
+  EXPECT_THAT(vesk({"--recover"}, "ls\n" + ("file -saveAs " + quoted(file("s.vesk"))) + "\n").out,
+              HasSubstr("\na\n"));
+  EXPECT_THAT(journals(), IsEmpty()) << "it is saved";
+}
+
+TEST_F(Recovery, AnAbruptEndWhileItRecoversLeavesTheWholeSession) {
+  cutOff({"createNode group -name a"});
+  const std::string whole = (preferences.path() / "journal" / journals().front()).string();
+  const std::string part =
+      (preferences.path() / "journal" / "29990101-000000-0000001.vesk").string();
+  std::ofstream(part) << "// recovers " << quoted(whole) << "\ncreateNode group -name half\n";
+  EXPECT_THAT(vesk({"--recover"}, "ls\nquit\n").out, EndsWith("\na\n"));
+  EXPECT_THAT(journals(), IsEmpty());
+}
+
+TEST_F(Recovery, OtherFilesInTheFolderAreLeftAlone) {
+  std::filesystem::create_directories(preferences.path() / "journal");
+  preferences.write("journal/notes.vesk", "createNode group\n");
+  EXPECT_THAT(vesk({"--discard"}).out, HasSubstr("0 abandoned sessions"));
+  EXPECT_THAT(journals(), SizeIs(1));
+}
+
+TEST_F(Recovery, NothingIsRecoveredWhereNoJournalCanBe) {
+  folder.write("journal", "a file where the folder should be");
+  const ProgramRun run =
+      runVesk({"--recover"}, {.variables = {{"VESK_PREFS_DIR", folder.path().string()}}});
+  EXPECT_EQ(run.status, 2);
+  EXPECT_THAT(run.err, HasSubstr("Warning: no journal can be kept in "));
+}
+
+/// Presses a button of the question in a window.
+class RecoveryInAWindow : public Recovery {
+ protected:
+  std::string press(const char* button) {
+    vesk::Gui gui;
+    std::ostringstream out;
+    vesk::Console console(out, out);
+    vesk::ProgramOptions options;
+    options.preferencesFolder = preferences.path().string();
+    vesk::Platform platform(options, console, false);
+    const std::unique_ptr<vesk::KeptJournal> kept = vesk::keepJournal(platform.session());
+    const auto window = gui.open(platform.session(), options);
+    vesk::takeUpJournals(options, platform.session(), kept.get(), window.get());
+    auto* box = window->findChild<QMessageBox*>("recovery");
+    if (!box) return "no question";
+    for (QAbstractButton* one : box->buttons()) {
+      if (one->text().remove('&') == button) one->click();
+    }
+    vesk::Gui::settle();
+    platform.runLine("ls", console);
+    return out.str();
+  }
+};
+
+TEST_F(RecoveryInAWindow, RecoverRunsTheLinesAgain) {
+  cutOff({"createNode group -name a"});
+  EXPECT_THAT(press("Recover"), EndsWith("2 lines of it ran again\na\n"));
+}
+
+TEST_F(RecoveryInAWindow, DiscardForgetsThem) {
+  cutOff({"createNode group -name a"});
+  EXPECT_EQ(press("Discard"), "");
+  EXPECT_EQ(press("Later"), "no question");
+}
+
+TEST_F(RecoveryInAWindow, LaterAsksAgain) {
+  cutOff({"createNode group -name a"});
+  EXPECT_EQ(press("Later"), "");
+  EXPECT_THAT(press("Recover"), EndsWith("\na\n"));
 }
 
 TEST_F(Recovery, WithoutAPlaceForItTheUserIsTold) {
