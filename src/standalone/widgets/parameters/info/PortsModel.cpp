@@ -7,6 +7,7 @@
 #include "standalone/graph/texts/PropertiesText.h"
 #include "standalone/widgets/look/Feeding.h"
 #include "standalone/widgets/parameters/NumberFormat.h"
+#include "standalone/widgets/parameters/ParameterRow.h"
 #include "standalone/widgets/parameters/PortEdits.h"
 #include "standalone/widgets/parameters/RowStyle.h"
 
