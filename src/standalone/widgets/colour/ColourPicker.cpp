@@ -82,13 +82,13 @@ ColourPicker::Row ColourPicker::makeRow(int index) {
     mix(withComponent(index, static_cast<float>(value)));
     finish();
   });
-  return {index, slider, number};
+  return {index, new QLabel(QString::fromLatin1(kLabels[index])), slider, number};
 }
 
 void ColourPicker::buildRows(QGridLayout& grid, int firstRow) {
   for (int index = 0; index < kComponents; ++index) {
     rows_.push_back(makeRow(index));
-    grid.addWidget(new QLabel(QString::fromLatin1(kLabels[index])), firstRow + index, 0);
+    grid.addWidget(rows_.back().label, firstRow + index, 0);
     grid.addWidget(rows_.back().slider, firstRow + index, 1);
     grid.addWidget(rows_.back().number, firstRow + index, 2);
   }
@@ -172,9 +172,20 @@ void ColourPicker::setColour(const HIGColor& colour) {
   showSpaces();
 }
 
+void ColourPicker::setAlphaShown(bool shown) {
+  hasAlpha_ = shown;
+  const Row& alpha = rows_[kAlpha];
+  for (QWidget* part : {static_cast<QWidget*>(alpha.label), static_cast<QWidget*>(alpha.slider),
+                        static_cast<QWidget*>(alpha.number)}) {
+    part->setVisible(shown);
+  }
+  showColour(colour_);
+}
+
 void ColourPicker::showColour(const HIGColor& colour) {
   colour_ = colour;
-  mixing_ = toMixing(colour);
+  if (!hasAlpha_) colour_.a = 1;
+  mixing_ = toMixing(colour_);
   hsv_ = toHsv(mixing_, hsv_);
   mix(mixing_);
 }

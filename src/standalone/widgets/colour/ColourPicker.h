@@ -34,6 +34,9 @@ class ORVUI_EXPORT ColourPicker : public QWidget {
   const orvUI_v1::HIGColor& colour() const { return colour_; }
   void setColour(const orvUI_v1::HIGColor& colour);
 
+  /// For a colour that has no alpha there is no slider for it, and what is chosen is opaque.
+  void setAlphaShown(bool shown);
+
  signals:
   /// On its way, as while a slider moves.
   void changing(const orvUI_v1::HIGColor& colour);
@@ -42,9 +45,10 @@ class ORVUI_EXPORT ColourPicker : public QWidget {
   void changed(const orvUI_v1::HIGColor& colour);
 
  private:
-  /// A component: which one, its slider and its number.
+  /// A component: which one, its label, its slider and its number.
   struct Row {
     int component;
+    QLabel* label;
     ColourSlider* slider;
     QDoubleSpinBox* number;
   };
@@ -78,6 +82,7 @@ class ORVUI_EXPORT ColourPicker : public QWidget {
   orvUI_v1::HIGColor colour_;
   orvUI_v1::HIGColor mixing_;
   Hsv hsv_;
+  bool hasAlpha_ = true;
   bool showing_ = false;  ///< what the widgets say now comes from here
 
   ColourField* field_;

@@ -1,6 +1,7 @@
 // What opens over the canvas of the compound editor: menus that search, and fields.
 
 #include "standalone/widgets/colour/ColourDialog.h"
+#include "standalone/widgets/colour/ColourPicker.h"
 #include "standalone/widgets/colour/ManagedColour.h"
 #include "standalone/widgets/compound/CompoundEditorWidget.h"
 #include "standalone/widgets/compound/edits/PortEdits.h"
@@ -191,6 +192,7 @@ void CompoundEditorWidget::chooseColour() {
   auto* dialog = new ColourDialog(fromScreen(before), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setObjectName(QStringLiteral("noteColour"));
+  dialog->picker().setAlphaShown(false);
   dialog->setModal(true);
   connect(dialog, &ColourDialog::chosen, this, [this](const orvUI_v1::HIGColor& colour) {
     if (!bench_->canEdit()) return;

@@ -1,10 +1,12 @@
 #include "standalone/widgets/parameters/NumberFormat.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
 
+#include "standalone/graph/types/Components.h"
 #include "standalone/graph/types/ValueText.h"
 
 namespace orvuilib {
@@ -75,6 +77,19 @@ QString NumberFormat::print(double number) const {
   using Limits = std::numeric_limits<std::int32_t>;
   const double whole = std::clamp<double>(std::round(number), Limits::min(), Limits::max());
   return QString::number(static_cast<std::int32_t>(whole));
+}
+
+QString shortText(const orvlib::Value& value) {
+  constexpr std::size_t kMostTexts = 16;
+  const bool isWhole = orvlib::componentCount(value) <= kMostTexts;
+  NumberFormat format;
+  format.kind = orvlib::scalarKindOf(value);
+  QStringList texts;
+  for (const std::string& text :
+       orvlib::printValue(isWhole ? value : orvlib::componentsOf(value, 0, kMostTexts))) {
+    texts.append(format.shortened(QString::fromStdString(text)));
+  }
+  return texts.join(", ") + (isWhole ? QString() : QString(QChar(0x2026)));
 }
 
 NumberFormat formatOf(const orvlib::PortObject& port, int decimals) {

@@ -33,6 +33,9 @@ struct ORVUI_EXPORT NumberFormat {
   QString print(double number) const;
 };
 
+/// The value for the eye, its numbers shortened; of a long array only the beginning.
+ORVUI_EXPORT QString shortText(const orvlib::Value& value);
+
 /// Of the ports of that kind and metadata: the keys "min" and "max" bound what may be entered.
 ORVUI_EXPORT NumberFormat formatOf(const orvlib::PortObject& port, int decimals);
 

@@ -6,9 +6,11 @@
 #include <QVBoxLayout>
 
 #include "standalone/graph/model/Changes.h"
+#include "standalone/widgets/look/Signs.h"
 #include "standalone/widgets/parameters/Notes.h"
 #include "standalone/widgets/parameters/ParameterRow.h"
 #include "standalone/widgets/parameters/PortEdits.h"
+#include "standalone/widgets/parameters/ReadOnlyNote.h"
 #include "standalone/widgets/parameters/RowStyle.h"
 #include "standalone/widgets/parameters/RowView.h"
 
@@ -29,7 +31,7 @@ ParameterPanel::ParameterPanel(QWidget* parent)
     : QWidget(parent),
       search_(new QLineEdit(this)),
       blank_(makeNote("Nothing is selected", this)),
-      readOnly_(makeNote({}, this)),
+      readOnly_(new ReadOnlyNote(this)),
       rows_(new RowView(this)) {
   const int gap = style::gap(*this);
   auto* layout = new QVBoxLayout(this);
@@ -42,12 +44,11 @@ ParameterPanel::ParameterPanel(QWidget* parent)
   layout->addWidget(blank_, 1);
   layout->addWidget(rows_, 1);
   layout->addWidget(readOnly_);
-  readOnly_->setObjectName("readOnly");
   search_->setPlaceholderText("Search");
   search_->setToolTip("Name, value or type; name:, type: and value: narrow the search");
   search_->setTextMargins(gap, 0, gap, 0);
   search_->setObjectName("search");
-  search_->setClearButtonEnabled(true);
+  addClearAction(*search_);
   search_->installEventFilter(this);
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
     rows_->setFilter(text.trimmed());
@@ -91,9 +92,7 @@ void ParameterPanel::showNotes() {
   blank_->setVisible(rows_->isEmpty());
   rows_->setVisible(!rows_->isEmpty());
   search_->setVisible(!nodes_.empty());
-  const QString reason = readOnlyText();
-  readOnly_->setText(reason);
-  readOnly_->setVisible(!reason.isEmpty());
+  readOnly_->tell(readOnlyText());
 }
 
 QString ParameterPanel::readOnlyText() const {

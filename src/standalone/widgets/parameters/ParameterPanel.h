@@ -12,6 +12,7 @@ class QLineEdit;
 
 namespace orvuilib {
 
+class ReadOnlyNote;
 class RowView;
 
 /// The values of the inputs of some nodes, with a field that searches among them.
@@ -45,7 +46,7 @@ class ORVUI_EXPORT ParameterPanel final : public QWidget {
   std::size_t fingerprint_ = 0;
   QLineEdit* search_;
   QLabel* blank_;
-  QLabel* readOnly_;
+  ReadOnlyNote* readOnly_;
   RowView* rows_;
 };
 

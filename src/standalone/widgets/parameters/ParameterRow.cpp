@@ -5,9 +5,9 @@
 #include <algorithm>
 
 #include "standalone/graph/model/CompoundObject.h"
+#include "standalone/widgets/look/Feeding.h"
 #include "standalone/widgets/parameters/Choices.h"
 #include "standalone/widgets/parameters/NumberFormat.h"
-#include "standalone/widgets/parameters/RowState.h"
 
 namespace orvuilib {
 
@@ -102,8 +102,8 @@ void fill(TypeGroup& group) {
 
 void noteConnected(RowGroup& group) {
   for (ParameterRow& row : group.rows) {
-    row.connected = std::ranges::all_of(
-        row.ports, [](const PortRef& port) { return port->isInput() && isConnected(*port); });
+    row.connected =
+        std::ranges::all_of(row.ports, [](const PortRef& port) { return isFed(*port); });
   }
 }
 

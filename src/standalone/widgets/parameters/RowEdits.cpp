@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "standalone/widgets/look/Feeding.h"
+
 namespace orvuilib {
 
 using orvlib::PortRef;
@@ -22,9 +24,8 @@ void RowEdits::readAgain() {
 
 std::vector<PortRef> RowEdits::editablePorts() const {
   std::vector<PortRef> ports;
-  std::ranges::copy_if(row_.ports, std::back_inserter(ports), [](const PortRef& port) {
-    return canEdit(*port) && !(port->isInput() && isConnected(*port));
-  });
+  std::ranges::copy_if(row_.ports, std::back_inserter(ports),
+                       [](const PortRef& port) { return canEdit(*port) && !isFed(*port); });
   return ports;
 }
 

@@ -4,6 +4,7 @@
 
 #include "standalone/graph/types/Components.h"
 #include "standalone/graph/types/ValueText.h"
+#include "standalone/widgets/look/Feeding.h"
 #include "standalone/widgets/parameters/PortEdits.h"
 
 namespace orvuilib {
@@ -18,17 +19,12 @@ namespace {
 /// More are not shown.
 constexpr std::size_t kMostSources = 100;
 
-void addSource(RowState& state, PortObject* source) {
-  if (!source || state.sources.size() >= kMostSources) return;
-  const auto isSame = [source](const PortRef& known) { return known.get() == source; };
-  if (std::ranges::none_of(state.sources, isSame)) state.sources.emplace_back(source);
-}
-
 void addSources(RowState& state, const PortObject& port) {
-  for (PortObject* peer : port.peers().items()) addSource(state, peer);
-  const auto* children = port.madeChildren();
-  if (!children || !port.isFanInPort()) return;
-  for (PortObject* member : children->items()) addSource(state, member->source());
+  for (PortObject* source : feedersOf(port, kMostSources)) {
+    if (state.sources.size() >= kMostSources) return;
+    const auto isSame = [source](const PortRef& known) { return known.get() == source; };
+    if (std::ranges::none_of(state.sources, isSame)) state.sources.emplace_back(source);
+  }
 }
 
 /// Notes which components of two values differ. Arrays are compared as a whole.
@@ -45,7 +41,8 @@ void compare(RowState& state, const Value& first, const Value& other) {
 }
 
 void readComponentSources(RowState& state, const PortObject& port) {
-  const auto* children = port.isInput() && !port.isFanInPort() ? port.madeChildren() : nullptr;
+  const PortObject* face = takingFace(port);
+  const auto* children = face && !face->isFanInPort() ? face->madeChildren() : nullptr;
   if (!children) return;
   for (unsigned int i = 0; i < children->count() && i < state.componentSources.size(); ++i) {
     if (PortObject* source = children->at(i)->source()) state.componentSources[i] = PortRef(source);
@@ -56,7 +53,7 @@ void readPort(RowState& state, const PortObject& port) {
   state.own = state.own || port.ownValue() != nullptr;
   readComponentSources(state, port);
   if (port.valueType().isArray()) state.elements = std::max(state.elements, elementCount(port));
-  if (port.isInput() && isConnected(port)) {
+  if (isFed(port)) {
     ++state.connected;
     addSources(state, port);
   } else if (canEdit(port)) {
@@ -68,14 +65,6 @@ void readPort(RowState& state, const PortObject& port) {
 
 bool RowState::anyMixed() const {
   return std::ranges::any_of(mixed, [](bool differs) { return differs; });
-}
-
-bool isConnected(const PortObject& port) {
-  if (port.hasPeers()) return true;
-  const auto* children = port.isFanInPort() ? port.madeChildren() : nullptr;
-  return children && std::ranges::any_of(children->items(), [](const PortObject* member) {
-           return member->hasPeers();
-         });
 }
 
 RowState readState(const ParameterRow& row) {
@@ -103,11 +92,6 @@ QStringList valueTexts(const PortObject& port) {
   if (!value) return texts;
   for (const std::string& text : orvlib::printValue(*value)) texts.append(toText(text));
   return texts;
-}
-
-QString sourceName(const PortObject& source) {
-  const orvlib::NodeObject* node = source.node();
-  return (node ? toText(node->name()) + "." : QString()) + toText(source.fullName());
 }
 
 }  // namespace orvuilib

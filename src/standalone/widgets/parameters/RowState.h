@@ -45,13 +45,7 @@ ORVUI_EXPORT RowState readState(const ParameterRow& row);
 /// How many elements the port's own array has.
 ORVUI_EXPORT std::size_t elementCount(const orvlib::PortObject& array);
 
-/// Whether the port, or a member of it, is connected. A connected component does not count.
-bool isConnected(const orvlib::PortObject& port);
-
 /// The texts of the port's own value; empty when it has none to set.
 ORVUI_EXPORT QStringList valueTexts(const orvlib::PortObject& port);
-
-/// "add1.result" for a port.
-QString sourceName(const orvlib::PortObject& source);
 
 }  // namespace orvuilib

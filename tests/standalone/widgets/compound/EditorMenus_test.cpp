@@ -212,7 +212,8 @@ TEST_F(EditorMenusTest, TheColourOfANoteIsChosen) {
                 auto* dialog =
                     qobject_cast<orvuilib::ColourDialog*>(QApplication::activeModalWidget());
                 ASSERT_TRUE(dialog);
-                dialog->picker().setColour({1, 0, 0, 1});
+                dialog->picker().setColour({1, 0, 0, 0.5});
+                EXPECT_EQ(dialog->picker().colour().a, 1) << "a note has no alpha";
                 dialog->accept();
               }),
               ElementsAre(HasSubstr("\"note\" \"editor.color\" \"#ff0000\"")));

@@ -323,6 +323,21 @@ TEST_F(Interruption, ByUndoLeavesWhatIsOpen) {
   settle();
 }
 
+TEST_F(ParameterEditorWidgetTest, WhyNothingCanBeEditedStandsAtTheLowerEdge) {
+  add("core::math::add", "kept");
+  host.run("orvCompound g / -create box -moveNodeIn kept");
+  host.run("orvCompound g /box -setMetaData locked true");
+  using orvUI_v1::ParameterEditorMode;
+  for (const auto mode : {ParameterEditorMode::kInfo, ParameterEditorMode::kParameters}) {
+    editor.setMode(mode);
+    select({"/box/kept"});
+    auto* note = editor.findChild<QLabel*>("readOnly");
+    ASSERT_TRUE(note->isVisible());
+    EXPECT_EQ(note->mapTo(&editor, QPoint(0, note->height())), QPoint(0, editor.height()));
+    EXPECT_EQ(note->width(), editor.width());
+  }
+}
+
 TEST_F(ParameterEditorWidgetTest, LeavesNoWidgetWhenItGoes) {
   select({add("core::math::add", "sum")});
   const auto countAfterAnother = [] {

@@ -1,6 +1,9 @@
 #include "standalone/widgets/parameters/RowEdits.h"
 
+#include <QTableView>
+
 #include "standalone/widgets/parameters/fields/SourceLink.h"
+#include "standalone/widgets/parameters/info/PortsModel.h"
 #include "tests/standalone/widgets/parameters/ParameterTesting.h"
 
 namespace orvuilib {
@@ -168,6 +171,61 @@ TEST_F(RowEditsTest, ANodeThatGoesInADragIsPassedOver) {
   QTest::mouseRelease(slider, Qt::LeftButton, {}, {slider->width() / 3, 5});
   settle();
   EXPECT_EQ(row("a")->row().ports.size(), 1u);
+}
+
+/// The output of a compound, from within it or not.
+class FedOutputTest : public RowEditsTest {
+ protected:
+  FedOutputTest() {
+    host.run("orvCompound g / -create box -moveNodeIn one");
+    host.run("orvCompound g /box -createOutputPort out float");
+    host.run("orvNode g /box -setPortDefaultValues out 5");
+    select({"/box"});
+  }
+  void feed() {
+    host.run("orvConnect g /box/one.result /box.out");
+    settle();
+    lines();
+  }
+};
+
+TEST_F(FedOutputTest, ShowsItsSourceInThePlaceOfItsValue) {
+  EXPECT_TRUE(entry("out")->isVisible());
+  feed();
+  EXPECT_FALSE(entry("out")->isVisible());
+  EXPECT_TRUE(part<SourceLink>("out")->isVisible());
+  EXPECT_TRUE(part<SourceLink>("out")->text().endsWith(" one.result"));
+  undo();
+  settle();
+  EXPECT_TRUE(entry("out")->isVisible());
+}
+
+TEST_F(FedOutputTest, ShowsItsSourceAmongThePortsToo) {
+  editor.setMode(orvUI_v1::ParameterEditorMode::kInfo);
+  settle();
+  const auto* ports = editor.findChild<QTableView*>("ports")->model();
+  EXPECT_EQ(ports->index(0, PortsModel::kValue).data(), "5");
+  feed();
+  EXPECT_EQ(ports->index(0, PortsModel::kValue).data(), QString(QChar(0x2190)) + " one.result");
+}
+
+TEST_F(FedOutputTest, TakesNoEdits) {
+  feed();
+  RowEdits edits(row("out")->row());
+  EXPECT_TRUE(edits.row().connected);
+  EXPECT_FALSE(edits.state().editable);
+  edits.change(toValue({"7"}));
+  edits.reset();
+  EXPECT_EQ(value("/box.out"), "5");
+  EXPECT_THAT(lines(), IsEmpty());
+}
+
+TEST_F(RowEditsTest, TheSourceOfAConnectedPortHasTheWholeLine) {
+  host.run("orvConnect g /one.result /two.a");
+  select({"/two"});
+  auto* link = part<SourceLink>("a");
+  EXPECT_LE(link->parentWidget()->width() - link->geometry().right(), link->height() / 2);
+  EXPECT_FALSE(row("a")->findChild<QWidget*>("reset")->isVisible());
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #include "standalone/widgets/parameters/RowView.h"
 
+#include <QAction>
 #include <QLineEdit>
 #include <QPointer>
 #include <QScrollBar>
+#include <QToolButton>
 
 #include "standalone/widgets/parameters/GroupHeader.h"
 #include "standalone/widgets/parameters/ParameterPreferences.h"
@@ -177,6 +179,21 @@ TEST_F(RowViewTest, HiddenPortsHaveNoRow) {
   settle();
   EXPECT_EQ(rows().rowOf("p1"), nullptr);
   EXPECT_NE(rows().rowOf("p2"), nullptr);
+}
+
+TEST_F(RowViewTest, TheCrossInTheSearchFieldEmptiesIt) {
+  auto* clear = search()->findChild<QAction*>("clear");
+  ASSERT_NE(clear, nullptr);
+  EXPECT_FALSE(clear->isVisible());
+  QTest::keyClicks(search(), "p1");
+  EXPECT_TRUE(clear->isVisible());
+  const QImage cross = clear->icon().pixmap(QSize(64, 64)).toImage();
+  EXPECT_EQ(cross.width(), 64) << "it is drawn at its size";
+  EXPECT_GT(cross.pixelColor(32, 32).alpha(), 0);
+  EXPECT_EQ(cross.pixelColor(2, 32).alpha(), 0);
+  QTest::mouseClick(search()->findChild<QToolButton*>(), Qt::LeftButton);
+  EXPECT_TRUE(search()->text().isEmpty());
+  EXPECT_FALSE(clear->isVisible());
 }
 
 }  // namespace

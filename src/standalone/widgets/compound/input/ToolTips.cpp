@@ -3,6 +3,7 @@
 #include "standalone/graph/types/ValueText.h"
 #include "standalone/widgets/compound/input/Interaction.h"
 #include "standalone/widgets/compound/scene/ShownValue.h"
+#include "standalone/widgets/look/Feeding.h"
 
 namespace orvuilib {
 
@@ -18,7 +19,8 @@ QString bold(const std::string& utf8) { return QStringLiteral("<b>%1</b>").arg(t
 QString valueOf(const PortObject& port) {
   const QString last = lastValueOf(port);
   if (!last.isEmpty()) return QStringLiteral("last value: ") + last.toHtmlEscaped();
-  const auto value = port.hasPeers() ? std::nullopt : port.settableValue();
+  if (isFed(port)) return feedersText(port).toHtmlEscaped();
+  const auto value = port.settableValue();
   if (!value) return {};
   const auto texts = orvlib::printValue(*value);
   if (texts.size() > 16) return QStringLiteral("%1 values").arg(texts.size());

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "standalone/widgets/compound/parts/FocusLoss.h"
+#include "standalone/widgets/look/Signs.h"
 
 namespace orvuilib {
 namespace {
@@ -119,7 +120,7 @@ SearchList::SearchList(const Theme& theme, const QString& prompt, QWidget* paren
   field_->setFont(theme.widgetFont());
   field_->setTextMargins(theme.pixels(4), theme.pixels(2), theme.pixels(4), theme.pixels(2));
   field_->setPlaceholderText(prompt);
-  field_->setClearButtonEnabled(true);
+  addClearAction(*field_);
   hint_->setFont(theme.widgetFont());
   hint_->setForegroundRole(QPalette::PlaceholderText);
   hint_->setContentsMargins(theme.pixels(8), 0, theme.pixels(8), 0);

@@ -6,22 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "standalone/widgets/look/Signs.h"
+
 namespace orvuilib {
-namespace {
-
-void paintLock(QPainter& painter, const QRectF& area, const Theme& theme) {
-  const qreal unit = area.height() / 24;
-  painter.save();
-  painter.setPen(QPen(theme.palette().selected, 1.6 * unit));
-  painter.translate(area.topLeft());
-  painter.drawArc(QRectF(8 * unit, 5 * unit, 8 * unit, 10 * unit), 0, 180 * 16);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(theme.palette().selected);
-  painter.drawRoundedRect(QRectF(6 * unit, 10 * unit, 12 * unit, 9 * unit), 1.5 * unit, 1.5 * unit);
-  painter.restore();
-}
-
-}  // namespace
 
 Canvas::Canvas(LevelScene& scene, const EditorPreferences& preferences, QWidget* parent)
     : QWidget(parent), scene_(scene), preferences_(preferences) {
@@ -258,7 +245,8 @@ void Canvas::paintNotice(QPainter& painter) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(theme.palette().panel);
   painter.drawRoundedRect(area, inset / 2.0, inset / 2.0);
-  if (lock) paintLock(painter, QRectF(area.left() + inset / 2.0, area.top(), lock, lock), theme);
+  const QRectF sign(area.left() + inset / 2.0, area.top(), lock, lock);
+  if (lock) paintLock(painter, sign, theme.palette().selected);
   painter.setPen(theme.palette().quietText);
   painter.drawText(area.adjusted(inset + lock, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, shown);
 }

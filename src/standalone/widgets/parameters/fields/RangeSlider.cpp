@@ -35,6 +35,13 @@ double stepsOf(const QKeyEvent& event) {
   }
 }
 
+/// To 1, 2 or 5 times a power of ten.
+double roundedDown(double number) {
+  const double power = std::pow(10.0, std::floor(std::log10(number)));
+  const double first = number / power;
+  return power * (first >= 5 ? 5 : first >= 2 ? 2 : 1);
+}
+
 bool isMoveKey(const QKeyEvent& event) {
   return stepsOf(event) != 0 || event.key() == Qt::Key_Home || event.key() == Qt::Key_End;
 }
@@ -169,8 +176,20 @@ void RangeSlider::contextMenuEvent(QContextMenuEvent* event) {
 void RangeSlider::moveTo(double x) {
   const QRectF rail = track();
   const double at = std::clamp((x - rail.left()) / std::max(1.0, rail.width()), 0.0, 1.0);
-  showNumber(least_ + at * (most_ - least_));
+  showNumber(numberAt(at));
   if (moved) moved(number_);
+}
+
+/// What is finer than a pixel says nothing. The ends stay what they are.
+double RangeSlider::numberAt(double part) const {
+  const double span = most_ - least_;
+  const double exact = least_ + part * span;
+  const double pixel = span / std::max(1.0, track().width());
+  if (part <= 0 || part >= 1 || !(pixel > 0)) return part >= 1 ? most_ : exact;
+  const double grain = roundedDown(pixel);
+  const double number =
+      std::isfinite(grain) && grain > 0 ? std::round(exact / grain) * grain : exact;
+  return std::clamp(number, least_, most_);
 }
 
 double RangeSlider::part() const {

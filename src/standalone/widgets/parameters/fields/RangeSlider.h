@@ -57,6 +57,7 @@ class ORVUI_EXPORT RangeSlider final : public QWidget {
 
  private:
   void moveTo(double x);
+  double numberAt(double part) const;
   void step(const QKeyEvent& event);
   void end();
   void cancel();

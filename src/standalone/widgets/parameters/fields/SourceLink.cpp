@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QPainter>
 
+#include "standalone/widgets/look/Feeding.h"
 #include "standalone/widgets/parameters/RowStyle.h"
 #include "standalone/widgets/selection/SelectionModel.h"
 

@@ -9,6 +9,7 @@
 #include "standalone/widgets/parameters/Notes.h"
 #include "standalone/widgets/parameters/ParameterRow.h"
 #include "standalone/widgets/parameters/PortEdits.h"
+#include "standalone/widgets/parameters/ReadOnlyNote.h"
 #include "standalone/widgets/parameters/info/InfoHeader.h"
 #include "standalone/widgets/parameters/info/MetadataTable.h"
 #include "standalone/widgets/parameters/info/PortTable.h"
@@ -25,7 +26,7 @@ InfoPanel::InfoPanel(QWidget* parent)
     : QScrollArea(parent),
       page_(new QWidget(this)),
       blank_(makeNote("Nothing is selected", this)),
-      readOnly_(makeNote({}, page_)),
+      readOnly_(new ReadOnlyNote(this)),
       header_(new InfoHeader(page_)),
       states_(new StateBoxes(page_)),
       ports_(new PortTable(page_)),
@@ -39,8 +40,6 @@ InfoPanel::InfoPanel(QWidget* parent)
   auto* layout = new QVBoxLayout(page_);
   layout->setContentsMargins(2 * gap, 2 * gap, 2 * gap, 2 * gap);
   layout->setSpacing(gap);
-  readOnly_->setObjectName("readOnly");
-  layout->addWidget(readOnly_);
   layout->addWidget(header_);
   makeSections(*layout);
   layout->addStretch(1);
@@ -162,19 +161,30 @@ void InfoPanel::follow(unsigned char bits) {
 void InfoPanel::refresh() {
   page_->setVisible(!!node_);
   blank_->setVisible(!node_);
+  refreshNote();
   refreshWatches();
   if (!node_) return;
-  refreshNotes();
   header_->show(*node_, placeOfNode(), static_cast<int>(nodes_.size()));
   states_->refresh();
   ports_->refresh();
   for (MetadataTable* table : {portMetadata_, nodeMetadata_, compoundMetadata_}) table->refresh();
 }
 
-void InfoPanel::refreshNotes() {
-  const QString reason = readOnlyReason(*node_);
-  readOnly_->setText(reason);
-  readOnly_->setVisible(!reason.isEmpty());
+void InfoPanel::refreshNote() {
+  readOnly_->tell(node_ ? readOnlyReason(*node_) : QString());
+  placeNote();
+}
+
+/// It stays where it is while the page is scrolled.
+void InfoPanel::placeNote() {
+  const int noteHeight = readOnly_->isHidden() ? 0 : readOnly_->heightForWidth(width());
+  setViewportMargins(0, 0, 0, noteHeight);
+  readOnly_->setGeometry(0, height() - noteHeight, width(), noteHeight);
+}
+
+void InfoPanel::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  placeNote();
 }
 
 void InfoPanel::refreshWatches() {

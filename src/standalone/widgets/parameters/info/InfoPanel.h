@@ -14,6 +14,7 @@ namespace orvuilib {
 class InfoHeader;
 class MetadataTable;
 class PortTable;
+class ReadOnlyNote;
 class StateBoxes;
 class WatchView;
 
@@ -39,6 +40,9 @@ class ORVUI_EXPORT InfoPanel final : public QScrollArea {
   /// Called with the reason why what a user did had no effect.
   std::function<void(const QString&)> refused;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void makeSections(QVBoxLayout& layout);
   QLabel* addSection(QVBoxLayout& layout, const char* title);
@@ -52,7 +56,8 @@ class ORVUI_EXPORT InfoPanel final : public QScrollArea {
   void showPortMetadata();
   void turn(int by);
   void refresh();
-  void refreshNotes();
+  void refreshNote();
+  void placeNote();
   void refreshWatches();
   void makeWatches(const std::vector<orvlib::PortRef>& watched);
 
@@ -60,7 +65,7 @@ class ORVUI_EXPORT InfoPanel final : public QScrollArea {
   orvlib::NodeRef node_;
   QWidget* page_;
   QLabel* blank_;
-  QLabel* readOnly_;
+  ReadOnlyNote* readOnly_;
   InfoHeader* header_;
   StateBoxes* states_;
   PortTable* ports_;

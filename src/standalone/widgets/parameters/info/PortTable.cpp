@@ -12,6 +12,9 @@
 namespace orvuilib {
 namespace {
 
+/// A narrower table has no column of types.
+constexpr int kLeastLetters = 32;
+
 /// An eye.
 QPixmap watchSign(const QWidget& widget) {
   const int height = widget.fontMetrics().height();
@@ -57,7 +60,8 @@ void PortTable::refresh() {
   fitColumns();
 }
 
-/// The value gets what the others leave, and a good part at the least.
+/// The value gets what the others leave, and a good part at the least. Where names would be cut to
+/// nothing the type goes, which the tool tip tells too.
 void PortTable::fitColumns() {
   QHeaderView& header = *horizontalHeader();
   const int room = viewport()->width();
@@ -68,8 +72,10 @@ void PortTable::fitColumns() {
   const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
   const int box = style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this);
   header.resizeSection(PortsModel::kWatch, box + 2 * margin);
-  fit(PortsModel::kName, room * 32 / 100);
-  fit(PortsModel::kType, room * 24 / 100);
+  const bool hasTypes = room >= kLeastLetters * fontMetrics().averageCharWidth();
+  header.setSectionHidden(PortsModel::kType, !hasTypes);
+  fit(PortsModel::kName, room * (hasTypes ? 32 : 44) / 100);
+  if (hasTypes) fit(PortsModel::kType, room * 24 / 100);
 }
 
 void PortTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -5,11 +5,10 @@
 
 #include "standalone/graph/model/WatchPointObject.h"
 #include "standalone/graph/texts/PropertiesText.h"
-#include "standalone/graph/types/Components.h"
-#include "standalone/graph/types/ValueText.h"
+#include "standalone/widgets/look/Feeding.h"
 #include "standalone/widgets/parameters/NumberFormat.h"
+#include "standalone/widgets/parameters/ParameterRow.h"
 #include "standalone/widgets/parameters/PortEdits.h"
-#include "standalone/widgets/parameters/RowState.h"
 #include "standalone/widgets/parameters/RowStyle.h"
 
 namespace orvuilib {
@@ -28,35 +27,13 @@ PortObject& watchedFace(PortObject& port) {
   return isOuterOutput && port.twin() ? *port.twin() : port;
 }
 
-QString sourcesText(const PortObject& port) {
-  const RowState state =
-      readState({{}, {}, RowKind::Text, {PortRef(const_cast<PortObject*>(&port))}});
-  QStringList names;
-  for (const PortRef& source : state.sources) names.append(sourceName(*source));
-  return QString(QChar(0x2190)) + " " + names.join(", ");
-}
-
-/// Of a long array only the beginning is printed.
-QString printed(const orvlib::Value& value) {
-  constexpr std::size_t kMostTexts = 16;
-  const std::size_t count = orvlib::componentCount(value);
-  const bool isWhole = count <= kMostTexts;
-  QStringList texts;
-  for (const std::string& text :
-       orvlib::printValue(isWhole ? value : orvlib::componentsOf(value, 0, kMostTexts))) {
-    NumberFormat format;
-    format.kind = orvlib::scalarKindOf(value);
-    texts.append(format.shortened(toText(text)));
-  }
-  return texts.join(", ") + (isWhole ? QString() : QString(QChar(0x2026)));
-}
-
 /// Of what is computed, what was recorded last.
 QString valueText(PortObject& port) {
-  if (port.isInput() && isConnected(port)) return sourcesText(port);
+  if (port.isInput() && isFed(port)) return feedersText(port);
   const orvlib::WatchPointObject* watch = watchedFace(port).watchPoint();
-  if (watch && !watch->records().empty()) return printed(watch->records().back().value);
-  return port.isSettable() ? printed(port.unconnectedValue()) : QString();
+  if (watch && !watch->records().empty()) return shortText(watch->records().back().value);
+  if (isFed(port)) return feedersText(port);
+  return port.isSettable() ? shortText(port.unconnectedValue()) : QString();
 }
 
 }  // namespace

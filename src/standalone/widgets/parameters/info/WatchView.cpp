@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "standalone/graph/model/WatchPointObject.h"
+#include "standalone/widgets/parameters/NumberFormat.h"
 #include "standalone/widgets/parameters/ParameterRow.h"
 #include "standalone/widgets/parameters/PortEdits.h"
 #include "standalone/widgets/parameters/RowStyle.h"
@@ -42,7 +43,8 @@ WatchView::WatchView(orvlib::PortRef port, QWidget* parent)
       list_(new QListView(this)),
       model_(new QStringListModel(this)),
       metadata_(new MetadataTable(this)),
-      adder_(new QToolButton(this)) {
+      adder_(new QToolButton(this)),
+      remover_(new QToolButton(this)) {
   const int gap = style::gap(*this);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(gap, 0, 0, gap);
@@ -61,27 +63,27 @@ WatchView::WatchView(orvlib::PortRef port, QWidget* parent)
 
 void WatchView::makeHead() {
   auto* top = new QHBoxLayout;
-  auto* remover = new QToolButton(this);
-  remover->setText(QString(QChar(0x2212)));
-  remover->setToolTip("Remove the watch point");
-  remover->setObjectName("remove watch point");
-  connect(remover, &QToolButton::clicked, this, [this] { remove(); });
+  remover_->setText(QString(QChar(0x2212)));
+  remover_->setToolTip("Remove the watch point");
+  remover_->setObjectName("remove watch point");
+  connect(remover_, &QToolButton::clicked, this, [this] { remove(); });
   adder_->setText("+");
   adder_->setToolTip("Add metadata to the watch point");
   adder_->setObjectName("add watch metadata");
   connect(adder_, &QToolButton::clicked, metadata_, &QWidget::show);
-  for (QToolButton* button : {adder_, remover}) button->setAutoRaise(true);
+  for (QToolButton* button : {adder_, remover_}) button->setAutoRaise(true);
   title_->setWordWrap(true);
   title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   top->addWidget(title_, 1);
   top->addWidget(adder_);
-  top->addWidget(remover);
+  top->addWidget(remover_);
   static_cast<QVBoxLayout*>(layout())->addLayout(top);
 }
 
 void WatchView::makeBody() {
   latest_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   latest_->setTextFormat(Qt::PlainText);
+  latest_->setObjectName("latest");
   list_->setModel(model_);
   list_->setUniformItemSizes(true);
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -110,7 +112,8 @@ void WatchView::refresh() {
   showRecords();
   if (!watch->metadata().empty()) metadata_->show();
   const orvlib::NodeObject* node = port_->node();
-  adder_->setEnabled(node && isInOpenLevel(*node));
+  const bool isOpen = node && isInOpenLevel(*node);
+  for (QToolButton* button : {adder_, remover_}) button->setEnabled(isOpen);
   metadata_->refresh();
 }
 
@@ -120,7 +123,9 @@ void WatchView::showRecords() {
   const QString latest = records.texts.isEmpty() ? QString() : records.texts.back();
   latest_->setText(records.texts.isEmpty()
                        ? "nothing recorded yet"
-                       : QString("%1 recorded, now %2").arg(records.texts.size()).arg(latest));
+                       : QString("%1 recorded, now %2")
+                             .arg(records.texts.size())
+                             .arg(shortText(port_->watchPoint()->records().back().value)));
   latest_->setToolTip(latest);
   const bool plots = !records.curves.empty();
   plot_->setVisible(plots);

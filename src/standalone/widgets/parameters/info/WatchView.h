@@ -55,6 +55,7 @@ class ORVUI_EXPORT WatchView final : public QWidget {
   QStringListModel* model_;
   MetadataTable* metadata_;
   QToolButton* adder_;
+  QToolButton* remover_;
   Shown shown_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 
+#include "standalone/widgets/look/Feeding.h"
 #include "standalone/widgets/parameters/FieldStyle.h"
 #include "standalone/widgets/parameters/fields/NumberField.h"
 #include "standalone/widgets/parameters/fields/TextField.h"

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "standalone/widgets/colour/ColourDialog.h"
+#include "standalone/widgets/colour/ColourPicker.h"
 #include "standalone/widgets/parameters/RowStyle.h"
 #include "standalone/widgets/parameters/fields/SourceLink.h"
 
@@ -82,6 +83,7 @@ void RowWidget::openPicker(const orvUI_v1::HIGColor& colour,
   picker_->setAttribute(Qt::WA_DeleteOnClose);
   picker_->setObjectName("picker");
   picker_->setModal(true);
+  picker_->picker().setAlphaShown(row().type().componentCount() > 3);
   connect(picker_, &ColourDialog::changing, this,
           [this, shown = std::move(shown)](const auto& chosen) { show(shown(chosen)); });
   connect(picker_, &ColourDialog::chosen, this, [this] { endLive(); });
@@ -97,7 +99,8 @@ void RowWidget::resizeEvent(QResizeEvent* event) {
   layOut();
 }
 
-/// The last column is the reset button's, whether or not it is there: fields keep their places.
+/// The last column is the reset button's, whether or not it is there: fields keep their places. A
+/// row that is connected has none.
 void RowWidget::layOut() {
   const int gap = style::gap(*this);
   const int line = style::lineHeight(*this);
@@ -105,7 +108,7 @@ void RowWidget::layOut() {
   const int left = style::labelWidth(width());
   const int right = width() - button - gap;
   reset_->setGeometry(right + gap / 2, gap / 2, button, button);
-  link_->setGeometry(left, gap / 2, right - left, line - gap);
+  link_->setGeometry(left, gap / 2, width() - gap / 2 - left, line - gap);
   const QRect beside(left, gap / 2, right - left, height() - gap);
   const QRect below(3 * gap, line, right - 3 * gap, height() - line - gap / 2);
   editor_->setGeometry(isWide() ? below : beside);

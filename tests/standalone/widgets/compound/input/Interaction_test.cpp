@@ -251,4 +251,16 @@ TEST_F(InteractionTest, ASliderIsLetGoWithTheFocusAndWithALostRelease) {
   EXPECT_EQ(ended, 0);
 }
 
+TEST_F(InteractionTest, AnOutputThatIsFedFromWithinTellsItsSource) {
+  run("orvCompound g / -create box -moveNodeIn b");
+  run("orvCompound g /box -createOutputPort out float");
+  const auto tip = [this] {
+    return orvuilib::toolTipFor(canvas().hitAt(canvas().toScene(dotOf("box", "out"))));
+  };
+  EXPECT_TRUE(tip().contains("value: 0")) << tip().toStdString();
+  run("orvConnect g /box/b.result /box.out");
+  EXPECT_FALSE(tip().contains("value:")) << tip().toStdString();
+  EXPECT_TRUE(tip().contains(" b.result")) << tip().toStdString();
+}
+
 }  // namespace

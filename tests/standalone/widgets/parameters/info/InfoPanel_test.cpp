@@ -111,6 +111,10 @@ TEST_F(InfoPanelTest, OffersEditsOnlyWhereTheyAreAllowed) {
   auto* box = editor.findChild<QCheckBox*>("flag f");
   const QModelIndex cell = table("node metadata")->model()->index(0, 1);
   const QModelIndex watch = table("ports")->model()->index(2, PortsModel::kWatch);
+  clickWatchBox(2);
+  auto* adder = editor.findChild<QWidget*>("add watch metadata");
+  auto* remover = editor.findChild<QWidget*>("remove watch point");
+  EXPECT_TRUE(adder->isEnabled() && remover->isEnabled());
   EXPECT_TRUE(box->isEnabled());
   EXPECT_TRUE(cell.flags() & Qt::ItemIsEditable);
   EXPECT_TRUE(watch.flags() & Qt::ItemIsUserCheckable);
@@ -118,6 +122,7 @@ TEST_F(InfoPanelTest, OffersEditsOnlyWhereTheyAreAllowed) {
   host.run("orvCompound g \"/box\" -setMetaData locked true");
   settle();
   host.takeEchoes();
+  EXPECT_FALSE(adder->isEnabled() || remover->isEnabled());
   EXPECT_FALSE(box->isEnabled());
   EXPECT_FALSE(cell.flags() & Qt::ItemIsEditable);
   EXPECT_FALSE(watch.flags() & Qt::ItemIsUserCheckable);
@@ -197,6 +202,10 @@ TEST_F(InfoPanelTest, ValuesHaveTheMostRoom) {
   const QHeaderView& header = *table("ports")->horizontalHeader();
   EXPECT_GT(header.sectionSize(PortsModel::kValue), header.sectionSize(PortsModel::kName));
   EXPECT_GT(header.sectionSize(PortsModel::kName), header.sectionSize(PortsModel::kType));
+  EXPECT_FALSE(header.isSectionHidden(PortsModel::kType));
+  editor.resize(200, 620);
+  settle();
+  EXPECT_TRUE(header.isSectionHidden(PortsModel::kType)) << "names need its room";
 }
 
 TEST_F(InfoPanelTest, ListsPortsWithTheirValues) {
@@ -272,6 +281,11 @@ TEST_F(InfoPanelTest, RecordsAreShownAsTheyCome) {
   for (QLabel* label : watch->findChildren<QLabel*>()) texts.append(label->text());
   EXPECT_TRUE(texts.join("\n").contains("2 recorded, now 7")) << texts.join("\n").toStdString();
   EXPECT_TRUE(watch->findChild<QWidget*>("remove watch point") != nullptr);
+  host.run("orvNode g /other -setPortDefaultValues a 0.48999998");
+  settle();
+  QLabel* latest = watch->findChild<QLabel*>("latest");
+  EXPECT_TRUE(latest->text().endsWith("now 0.49")) << latest->text().toStdString();
+  EXPECT_EQ(latest->toolTip(), "0.48999998");
 }
 
 /// Whether any pixel of the picture has about the colour.

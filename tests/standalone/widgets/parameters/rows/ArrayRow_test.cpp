@@ -207,6 +207,7 @@ TEST_F(ArrayRowTest, ColoursHaveSwatchesWithAPicker) {
   ASSERT_NE(picker, nullptr);
   settle();
   EXPECT_EQ(value("/one.it"), "{0,0,1,1,0.5,0}") << "it is seen while it is mixed";
+  EXPECT_FALSE(picker->findChildren<ColourSlider*>().at(6)->isVisible()) << "no alpha";
   EXPECT_THAT(host.steps(), IsEmpty());
   picker->accept();
   settle();

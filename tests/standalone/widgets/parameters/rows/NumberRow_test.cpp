@@ -305,5 +305,22 @@ TEST_F(NumberRowTest, IntegersStepByOne) {
   EXPECT_EQ(value("/count.a"), "-1");
 }
 
+TEST_F(NumberRowTest, ADragGivesNoMoreDigitsThanAPixelIsWorth) {
+  for (const double part : {0.31, 0.53, 0.68}) {
+    QTest::mousePress(slider(), Qt::LeftButton, {}, at(0.2));
+    QTest::mouseMove(slider(), at(part));
+    QTest::mouseRelease(slider(), Qt::LeftButton, {}, at(part));
+    settle();
+    EXPECT_NE(value("/sum.a"), "0");
+    EXPECT_LE(value("/sum.a").size(), std::string("0.125").size()) << value("/sum.a");
+    EXPECT_NEAR(std::stod(value("/sum.a")), part, 0.1);
+  }
+  QTest::mousePress(slider(), Qt::LeftButton, {}, at(0.2));
+  QTest::mouseMove(slider(), at(1));
+  QTest::mouseRelease(slider(), Qt::LeftButton, {}, at(1));
+  settle();
+  EXPECT_EQ(value("/sum.a"), "1");
+}
+
 }  // namespace
 }  // namespace orvuilib

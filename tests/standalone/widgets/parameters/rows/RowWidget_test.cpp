@@ -325,5 +325,21 @@ TEST_F(RowTest, AFanInPortShowsAllItsSources) {
   EXPECT_TRUE(part<SourceLink>("elements")->text().contains("2 sources"));
 }
 
+TEST_F(RowTest, ThePickerHasAlphaForColoursThatHaveIt) {
+  selectPort("color3");
+  ColourDialog* opaque = pickerOf(part<ColourButton>("it"), row("it"));
+  EXPECT_TRUE(opaque->findChildren<ColourSlider*>().at(5)->isVisible());
+  EXPECT_FALSE(opaque->findChildren<ColourSlider*>().at(6)->isVisible());
+  opaque->picker().setColour({1, 0, 0, 0.5});
+  EXPECT_EQ(opaque->picker().colour().a, 1);
+  opaque->reject();
+  settle();
+  host.run("orvCompound g /box -createInputPort other color4");
+  settle();
+  ColourDialog* clear = pickerOf(part<ColourButton>("other"), row("other"));
+  EXPECT_TRUE(clear->findChildren<ColourSlider*>().at(6)->isVisible());
+  clear->reject();
+}
+
 }  // namespace
 }  // namespace orvuilib
