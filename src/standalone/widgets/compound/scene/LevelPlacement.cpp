@@ -29,10 +29,10 @@ void LevelScene::placeAll() {
       loose.push_back(box);
     }
   }
-  const QPointF origin = placed.isNull() ? QPointF() : placed.bottomLeft() + QPointF(0, 60);
   forEachNote([&placed](const NoteItem& note) {
     if (!note.isBackdrop()) placed |= note.bounds;
   });
+  const QPointF origin = placed.isNull() ? QPointF() : placed.bottomLeft() + QPointF(0, 60);
   placeInColumns(loose, origin);
   forEachBox([this](BoxItem& box) { boxGrid_.insert(box); });
   lastFree_ = origin;
