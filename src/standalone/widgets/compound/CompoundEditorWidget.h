@@ -110,9 +110,6 @@ class ORVUI_EXPORT CompoundEditorWidget final : public orvUI_v1::CompoundEditor,
   void openNodeMenuFor(const edits::Joint& wire, const QPointF& at);
   void addByKey();
   void addPicked(const edits::NewNode& what);
-  void addAndSelect(const edits::NewNode& what, const edits::NodePlace& place);
-  orvlib::NodeObject* addInto(const edits::Joint& joint, const edits::NewNode& what,
-                              const QPointF& at);
   void performAt(Action action, const QPointF& place);
   void openFind();
   void addNote(const std::function<void()>& add);
@@ -141,7 +138,6 @@ class ORVUI_EXPORT CompoundEditorWidget final : public orvUI_v1::CompoundEditor,
   std::unique_ptr<Interaction> interaction_;
   QString runtimeHint_;
   QString usualType_ = QStringLiteral("float");  ///< that was last chosen for a port
-  std::optional<edits::Joint> insertInto_;       ///< a wire that the node menu was opened for
   std::uint64_t toldSelection_ = 0;
 
   struct Fitted {

@@ -168,13 +168,14 @@ void CompoundEditorWidget::nudge(const QPointF& by) {
 }
 
 void CompoundEditorWidget::growNotes(const QSizeF& by) {
-  const std::vector<NoteItem*> notes = scene_.selectedNotes();
-  if (notes.empty()) return;
-  const EditStep step(session_, QStringLiteral("Resize"));
-  for (NoteItem* note : notes) {
+  std::vector<std::pair<NoteItem*, QRectF>> grown;
+  for (NoteItem* note : scene_.selectedNotes()) {
     const QSizeF size = (note->bounds.size() + by).expandedTo(kSmallestNote);
-    edits::setBounds(session_, *note, {note->bounds.topLeft(), size});
+    if (size != note->bounds.size()) grown.emplace_back(note, QRectF(note->bounds.topLeft(), size));
   }
+  if (grown.empty()) return;
+  const EditStep step(session_, QStringLiteral("Resize"));
+  for (const auto& [note, bounds] : grown) edits::setBounds(session_, *note, bounds);
 }
 
 void CompoundEditorWidget::arrange(const std::vector<edits::Moved>& moved) {

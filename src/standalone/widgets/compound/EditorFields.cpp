@@ -41,20 +41,20 @@ SearchList::Place CompoundEditorWidget::placeAt(const QPointF& scenePoint) const
 void CompoundEditorWidget::openNodeMenu(const edits::NodePlace& place,
                                         const std::vector<Action>& actions) {
   if (!bench_->canEdit()) return;
-  insertInto_.reset();
   const PortRef port(place.connectTo);
+  const PortRef wireTo(place.wireTo);
   overlays_.nodeMenu().offer(
       scene_.levelNode()->core(), place,
-      [this, port, at = placeAt(place.position)]() -> std::optional<QPoint> {
+      [this, port, wireTo, at = placeAt(place.position)]() -> std::optional<QPoint> {
         if (port && !scene_.find(*port).box) return {};
+        if (wireTo && !wireTo->peers().contains(port.get())) return {};
         return at();
       },
       actions);
 }
 
 void CompoundEditorWidget::openNodeMenuFor(const edits::Joint& wire, const QPointF& at) {
-  openNodeMenu({at, wire.source.get()});
-  insertInto_ = wire;
+  openNodeMenu({at, wire.source.get(), wire.target.get()});
 }
 
 /// Where a wire was begun by key it goes on with the new node; into a current wire it is put.
@@ -79,31 +79,13 @@ void CompoundEditorWidget::addPicked(const edits::NewNode& what) {
   const bool isNote =
       what.kind == edits::NewNode::Kind::Backdrop || what.kind == edits::NewNode::Kind::StickyNote;
   if (isNote) return addNote([&] { edits::addNode(session_, what, place); });
-  addAndSelect(what, place);
-}
-
-void CompoundEditorWidget::addAndSelect(const edits::NewNode& what, const edits::NodePlace& place) {
-  const auto wire = std::exchange(insertInto_, std::nullopt);
-  const NodeObject* node =
-      wire ? addInto(*wire, what, place.position) : edits::addNode(session_, what, place);
+  const NodeObject* node = edits::addNode(session_, what, place);
   BoxItem* box = node ? scene_.find(node) : nullptr;
   if (!box) return;
   scene_.clearSelection();
   scene_.select(*box);
   canvas_->update();
   selectionMayHaveChanged();
-}
-
-NodeObject* CompoundEditorWidget::addInto(const edits::Joint& joint, const edits::NewNode& what,
-                                          const QPointF& at) {
-  EditStep step(session_, QStringLiteral("Insert"));
-  NodeObject* node = edits::addNode(session_, what, {at, nullptr});
-  if (!node) return nullptr;
-  Wire wire;
-  wire.source = joint.source;
-  wire.target = joint.target;
-  step.require(edits::insertNode(session_, wire, *node));
-  return node;
 }
 
 void CompoundEditorWidget::performAt(Action action, const QPointF& place) {
@@ -196,9 +178,12 @@ void CompoundEditorWidget::chooseColour() {
   dialog->setModal(true);
   connect(dialog, &ColourDialog::chosen, this, [this](const orvUI_v1::HIGColor& colour) {
     if (!bench_->canEdit()) return;
-    const std::vector<NoteItem*> notes = scene_.selectedNotes();
+    const QColor chosen = toScreen(colour);
+    std::vector<NoteItem*> notes = scene_.selectedNotes();
+    std::erase_if(notes, [&chosen](const NoteItem* note) { return note->colour == chosen.rgb(); });
+    if (notes.empty()) return;
     const EditStep step(session_, QStringLiteral("Colour"));
-    for (NoteItem* note : notes) edits::setColour(session_, *note, toScreen(colour));
+    for (NoteItem* note : notes) edits::setColour(session_, *note, chosen);
   });
   const auto round = scene_.selectionRound();
   overlays_.open(dialog,

@@ -1,5 +1,7 @@
 #include "standalone/widgets/compound/edits/EditSession.h"
 
+#include <utility>
+
 #include "platform/ORV_1_0/Host.h"
 #include "standalone/graph/model/ContainerObject.h"
 #include "standalone/widgets/hooks/HookRegistry.h"
@@ -26,15 +28,20 @@ QString EditSession::refusal() const {
   return {};
 }
 
-EditStep::EditStep(const EditSession& session, const QString& name)
+EditStep::EditStep(EditSession& session, const QString& name)
     : session_(session),
+      outer_(std::exchange(session.openStep_, this)),
       hook_(session.hook()),
       services_(session.services()),
       core_(&session.level().node()->core()),
       name_(name) {
-  if (services_) services_->openUndoChunk(name);
-  hook_.openChangeBracket(core_->container());
+  if (!outer_) open();
   revision_ = core_->container()->revision();
+}
+
+void EditStep::open() {
+  if (services_) services_->openUndoChunk(name_);
+  hook_.openChangeBracket(core_->container());
 }
 
 /// A graph that is gone was changed.
@@ -50,12 +57,27 @@ QString EditStep::report(bool takenBack) const {
 }
 
 EditStep::~EditStep() {
+  session_.openStep_ = outer_;
   const bool nothing = changedNothing();
-  if (core_->container()) hook_.closeChangeBracket(core_->container());
   const bool fails = nothing || failures_ > 0;
+  if (outer_) {
+    passUp(fails);
+  } else {
+    close(fails, nothing);
+  }
+}
+
+void EditStep::close(bool fails, bool nothing) {
+  if (core_->container()) hook_.closeChangeBracket(core_->container());
   if (services_ && fails) services_->abandonUndoChunk();
   if (services_ && !fails) services_->closeUndoChunk();
   if (fails) session_.tell(report(nothing || services_));
+}
+
+/// An abandoned chunk costs a step, and there is one for both.
+void EditStep::passUp(bool fails) {
+  outer_->require(!fails);
+  if (fails && outer_->reason_.isEmpty()) outer_->setReason(reason_);
 }
 
 }  // namespace orvuilib

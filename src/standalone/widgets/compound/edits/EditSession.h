@@ -10,6 +10,8 @@
 
 namespace orvuilib {
 
+class EditStep;
+
 /// The way from an editor to the edits of the level that it shows. It changes no graph: it calls
 /// the hooks that are installed.
 class ORVUI_EXPORT EditSession {
@@ -54,20 +56,24 @@ class ORVUI_EXPORT EditSession {
   }
 
  private:
+  friend class EditStep;
+
   orvUI_v1::CommandHook* findHook() const;
 
   LevelScene& scene_;
+  EditStep* openStep_ = nullptr;  ///< the innermost one
   std::function<void(const QString&)> notice_;
 };
 
 /// Edits that are one step of undo, and one change for whoever follows the graph. It is made whole
 /// or not at all: when a part that is required was not made, or nothing came of any, the step is
 /// taken back as soon as the program undoes, and the user is told. Without undo steps what was
-/// made stays, and the user is told too.
+/// made stays, and the user is told too. A step within another one is a part of that: when it is
+/// not made, the whole is not.
 class ORVUI_EXPORT EditStep {
  public:
   /// `name` is said to the user, and names the step.
-  EditStep(const EditSession& session, const QString& name);
+  EditStep(EditSession& session, const QString& name);
   EditStep(const EditStep&) = delete;
   EditStep& operator=(const EditStep&) = delete;
   ~EditStep();
@@ -82,10 +88,14 @@ class ORVUI_EXPORT EditStep {
   void setReason(const QString& reason) { reason_ = reason; }
 
  private:
+  void open();
+  void close(bool fails, bool nothing);
+  void passUp(bool fails);
   bool changedNothing() const;
   QString report(bool takenBack) const;
 
-  const EditSession& session_;
+  EditSession& session_;
+  EditStep* outer_;  ///< null for the outermost, which alone is a step of undo
   orvUI_v1::CommandHook& hook_;
   orvUI_v1::AppServicesHook* services_;
   orvlib::CoreRef core_;

@@ -1,5 +1,7 @@
 #include "standalone/widgets/compound/edits/NodeEdits.h"
 
+#include <algorithm>
+
 #include "platform/ORV_1_0/AnnotationList.h"
 #include "standalone/widgets/compound/edits/WireEdits.h"
 #include "standalone/widgets/compound/scene/Placement.h"
@@ -39,19 +41,29 @@ NodeObject* makeNode(EditSession& session, const NewNode& what) {
   return EditSession::object(session.hook().addIONode(level, flag, {}));
 }
 
-/// What gives to the port ends at the place, what takes from it begins there.
+/// What gives to the port ends at the place, what takes from it begins there; in a wire it lies
+/// around it.
 QPointF cornerOf(const EditSession& session, NodeObject& node, const NodePlace& place) {
-  if (!place.connectTo || !place.connectTo->isInput()) return place.position;
+  if (!place.connectTo || !(place.wireTo || place.connectTo->isInput())) return place.position;
   BoxItem box;
   box.node = orvlib::NodeRef(&node);
   layOut(box, {}, session.scene().theme());
+  if (place.wireTo) return place.position - QRectF(QPointF(), box.bounds.size()).center();
   return place.position - QPointF(box.bounds.width(), 0);
+}
+
+bool connectAt(EditSession& session, NodeObject& node, const NodePlace& place) {
+  if (!place.connectTo) return true;
+  if (!place.wireTo) return connectToFirstFitting(session, *place.connectTo, node);
+  return insertNode(session, {orvlib::PortRef(place.connectTo), orvlib::PortRef(place.wireTo)},
+                    node);
 }
 
 }  // namespace
 
 bool setPosition(EditSession& session, NodeObject& node, const QPointF& position) {
   const QString text = placement::toText(position);
+  if (placement::textIn(node.metadata(), placement::kPosition) == text) return true;
   session.hook().setMetaData(CommandHook::kTargetNode, EditSession::handle(node),
                              QLatin1String(placement::kPosition), text);
   return placement::textIn(node.metadata(), placement::kPosition) == text;
@@ -80,25 +92,38 @@ NodeObject* addNode(EditSession& session, const NewNode& what, const NodePlace& 
     addStickyNote(session, place.position);
     return nullptr;
   }
-  EditStep step(session, QStringLiteral("Add node"));
+  EditStep step(session, place.wireTo ? QStringLiteral("Insert") : QStringLiteral("Add node"));
   NodeObject* node = makeNode(session, what);
   if (!step.require(node)) return nullptr;
   step.require(setPosition(session, *node, cornerOf(session, *node, place)));
-  if (place.connectTo) {
-    step.require(connectToFirstFitting(session, *place.connectTo, *node));
-  }
+  step.require(connectAt(session, *node, place));
   return node;
 }
 
 namespace {
 
 bool moveBoundary(EditSession& session, const BoxItem& box, const QPointF& position) {
-  const char* key =
-      box.kind == BoxKind::Inputs ? placement::kInputsPosition : placement::kOutputsPosition;
+  const char* key = positionKeyOf(box);
   const QString text = placement::toText(position);
+  if (placement::textIn(session.level().metadata(), key) == text) return true;
   session.hook().setMetaData(CommandHook::kTargetCompound, EditSession::handle(*box.node),
                              QLatin1String(key), text);
   return placement::textIn(session.level().metadata(), key) == text;
+}
+
+/// Whether the graph says so already.
+bool isThere(const EditSession& session, const Moved& moved) {
+  const QString position = placement::toText(moved.position);
+  if (moved.note) {
+    const auto& metadata = moved.note->annotation->metadata();
+    const bool sized =
+        !moved.size || placement::textIn(metadata, placement::kSize) ==
+                           placement::toText({moved.size->width(), moved.size->height()});
+    return sized && placement::textIn(metadata, placement::kPosition) == position;
+  }
+  const bool isNode = moved.box->kind == BoxKind::Node;
+  const auto& metadata = isNode ? moved.box->node->metadata() : session.level().metadata();
+  return placement::textIn(metadata, positionKeyOf(*moved.box)) == position;
 }
 
 bool moveOne(EditSession& session, const Moved& moved) {
@@ -118,12 +143,15 @@ bool moveOne(EditSession& session, const Moved& moved) {
 }  // namespace
 
 void move(EditSession& session, const std::vector<Moved>& moved, const Wire* insertInto) {
+  const bool allThere =
+      std::ranges::all_of(moved, [&session](const Moved& each) { return isThere(session, each); });
+  if (allThere && !insertInto) return;
   // A program may tell of each edit at once, and make the wire anew.
-  const Wire wire = insertInto ? *insertInto : Wire();
+  const Joint joint = insertInto ? Joint{insertInto->source, insertInto->target} : Joint();
   const orvlib::NodeRef first = moved.front().box ? moved.front().box->node : orvlib::NodeRef();
   EditStep step(session, QStringLiteral("Move"));
   for (const Moved& each : moved) step.require(moveOne(session, each));
-  if (insertInto) step.require(insertNode(session, wire, *first));
+  if (insertInto) step.require(insertNode(session, joint, *first));
 }
 
 void rename(EditSession& session, NodeObject& node, const QString& name) {

@@ -26,6 +26,10 @@ struct NodePlace {
 
   /// A port that the new node's first fitting port is connected to; null for none.
   orvlib::PortObject* connectTo = nullptr;
+
+  /// The other end of the wire from `connectTo` that the new node is put into, with its middle at
+  /// the position; null for none.
+  orvlib::PortObject* wireTo = nullptr;
 };
 
 /// Null when no node was made, or a note.

@@ -26,6 +26,7 @@ bool add(EditSession& session, CommandHook::AnnotationEdit kind, const char* nam
 
 bool setNoteValue(EditSession& session, const orvlib::AnnotationObject& note, const char* key,
                   const QString& value) {
+  if (placement::textIn(note.metadata(), key) == value) return true;
   session.hook().editAnnotation(CommandHook::kSetAnnotationMetaDataValue, session.levelHandle(),
                                 note.getName(), key, value.toUtf8().constData());
   return placement::textIn(note.metadata(), key) == value;

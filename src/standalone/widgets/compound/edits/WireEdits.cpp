@@ -184,7 +184,7 @@ bool canInsert(const Wire& wire, NodeObject& node) {
 }
 
 /// The new wire into the target takes the place of the one that was there.
-bool insertNode(EditSession& session, const Wire& wire, NodeObject& node) {
+bool insertNode(EditSession& session, const Joint& wire, NodeObject& node) {
   const PortRef source = wire.source;
   const PortRef target = wire.target;
   PortObject* input = firstFitting(*source, node);
@@ -195,7 +195,7 @@ bool insertNode(EditSession& session, const Wire& wire, NodeObject& node) {
 
 void insertIntoWire(EditSession& session, const Wire& wire, NodeObject& node) {
   EditStep step(session, QStringLiteral("Insert"));
-  step.require(insertNode(session, wire, node));
+  step.require(insertNode(session, {wire.source, wire.target}, node));
 }
 
 namespace {

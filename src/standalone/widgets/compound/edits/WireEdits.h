@@ -58,7 +58,7 @@ bool connect(EditSession& session, orvlib::PortObject& source, orvlib::PortObjec
 /// Also when no port fits: then nothing is to be done.
 bool connectToFirstFitting(EditSession& session, orvlib::PortObject& port,
                            orvlib::NodeObject& node);
-bool insertNode(EditSession& session, const Wire& wire, orvlib::NodeObject& node);
+bool insertNode(EditSession& session, const Joint& wire, orvlib::NodeObject& node);
 
 }  // namespace edits
 }  // namespace orvuilib

@@ -31,18 +31,6 @@ bool stays(const LevelScene& scene, const NoteItem& note, const QRectF& bounds) 
          (!size || sized(bounds, *size).size() == bounds.size());
 }
 
-const char* positionKeyOf(const BoxItem& box) {
-  switch (box.kind) {
-    case BoxKind::Inputs:
-      return placement::kInputsPosition;
-    case BoxKind::Outputs:
-      return placement::kOutputsPosition;
-    case BoxKind::Node:
-      break;
-  }
-  return placement::kPosition;
-}
-
 class Move final : public Gesture {
  public:
   Move(Workbench& bench, const QPointF& start, BoxItem* boundary) : Gesture(bench), start_(start) {

@@ -1,6 +1,8 @@
 #include "standalone/widgets/compound/parts/InlineEditor.h"
 
 #include <QKeyEvent>
+#include <QMimeData>
+#include <QRegularExpression>
 #include <algorithm>
 
 #include "standalone/widgets/compound/parts/FocusLoss.h"
@@ -85,6 +87,12 @@ void InlineEditor::keyPressEvent(QKeyEvent* event) {
 void InlineEditor::focusOutEvent(QFocusEvent* event) {
   QPlainTextEdit::focusOutEvent(event);
   if (isVisible() && leaves(*event)) commit();
+}
+
+void InlineEditor::insertFromMimeData(const QMimeData* source) {
+  if (severalLines_) return QPlainTextEdit::insertFromMimeData(source);
+  static const QRegularExpression kLineEnds(QStringLiteral("\\s*[\\r\\n\\x{2028}\\x{2029}]+\\s*"));
+  insertPlainText(source->text().trimmed().replace(kLineEnds, QStringLiteral(" ")));
 }
 
 bool InlineEditor::event(QEvent* event) {

@@ -36,6 +36,9 @@ class InlineEditor final : public QPlainTextEdit {
   void focusOutEvent(QFocusEvent* event) override;
   bool event(QEvent* event) override;
 
+  /// In a single line the ends of pasted lines are blanks.
+  void insertFromMimeData(const QMimeData* source) override;
+
  private:
   void commit();
   void takePlace(const QRect& area);

@@ -64,9 +64,10 @@ int scoreOf(const CatalogueEntry& entry, const QString& typed) {
   return std::max(title > 0 ? title + 40 : 0, type);
 }
 
-bool suits(const CatalogueEntry& entry, orvlib::PortObject* port) {
-  if (!port) return true;
-  return entry.definition && edits::fitsDefinition(*port, *entry.definition);
+bool suits(const CatalogueEntry& entry, const std::vector<orvlib::PortObject*>& ports) {
+  return std::ranges::all_of(ports, [&entry](orvlib::PortObject* port) {
+    return entry.definition && edits::fitsDefinition(*port, *entry.definition);
+  });
 }
 
 }  // namespace
@@ -98,14 +99,15 @@ std::string CatalogueEntry::colouredAs() const {
 }
 
 std::vector<const CatalogueEntry*> chooseFrom(const std::vector<CatalogueEntry>& entries,
-                                              const QString& typed, orvlib::PortObject* port) {
+                                              const QString& typed,
+                                              const std::vector<orvlib::PortObject*>& ports) {
   struct Scored {
     const CatalogueEntry* entry;
     int score;
   };
   std::vector<Scored> fitting;
   for (const CatalogueEntry& entry : entries) {
-    const int score = suits(entry, port) ? scoreOf(entry, typed) : 0;
+    const int score = suits(entry, ports) ? scoreOf(entry, typed) : 0;
     if (score > 0) fitting.push_back({&entry, score});
   }
   if (!typed.isEmpty()) std::ranges::stable_sort(fitting, std::greater(), &Scored::score);

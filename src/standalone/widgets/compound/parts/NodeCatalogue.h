@@ -25,9 +25,10 @@ struct CatalogueEntry {
 /// definition.
 std::vector<CatalogueEntry> catalogueFor(const orvlib::GraphCore& core);
 
-/// Those that fit what was typed, the best first; with a port, only those that could be connected
-/// to it. `entries` outlives the result.
+/// Those that fit what was typed, the best first; with ports, only those that could be connected to
+/// each of them. `entries` outlives the result.
 ORVUI_EXPORT std::vector<const CatalogueEntry*> chooseFrom(
-    const std::vector<CatalogueEntry>& entries, const QString& typed, orvlib::PortObject* port);
+    const std::vector<CatalogueEntry>& entries, const QString& typed,
+    const std::vector<orvlib::PortObject*>& ports);
 
 }  // namespace orvuilib

@@ -4,6 +4,28 @@
 
 namespace orvuilib {
 
+namespace {
+
+QString hintFor(const edits::NodePlace& place) {
+  const auto typeOf = [](const orvlib::PortObject& port) {
+    return QString::fromStdString(port.valueType().name);
+  };
+  if (!place.connectTo) return {};
+  if (!place.wireTo) return QStringLiteral("What connects to %1").arg(typeOf(*place.connectTo));
+  return QStringLiteral("What fits between %1 and %2")
+      .arg(typeOf(*place.connectTo), typeOf(*place.wireTo));
+}
+
+std::vector<orvlib::PortObject*> portsOf(const edits::NodePlace& place) {
+  std::vector<orvlib::PortObject*> ports;
+  for (orvlib::PortObject* port : {place.connectTo, place.wireTo}) {
+    if (port) ports.push_back(port);
+  }
+  return ports;
+}
+
+}  // namespace
+
 NodeMenu::NodeMenu(const Theme& theme, QWidget* parent)
     : SearchList(theme, QStringLiteral("Add a node"), parent), theme_(theme) {
   setObjectName(QStringLiteral("nodeMenu"));
@@ -17,14 +39,13 @@ void NodeMenu::offer(const orvlib::GraphCore& core, const edits::NodePlace& plac
   actions_ = actions;
   position_ = place.position;
   connectTo_ = orvlib::PortRef(place.connectTo);
-  const QString type =
-      connectTo_ ? QString::fromStdString(connectTo_->valueType().name) : QString();
-  hint_ = type.isEmpty() ? QString() : QStringLiteral("What connects to %1").arg(type);
+  wireTo_ = orvlib::PortRef(place.wireTo);
+  hint_ = hintFor(place);
   openAt(std::move(at));
 }
 
 std::vector<SearchLine> NodeMenu::search(const QString& typed) {
-  shown_ = chooseFrom(entries_, typed, connectTo_.get());
+  shown_ = chooseFrom(entries_, typed, portsOf(place()));
   std::vector<SearchLine> nodes;
   for (const CatalogueEntry* entry : shown_) {
     nodes.push_back({entry->title, entry->place, entry->description,

@@ -14,13 +14,14 @@ class NodeMenu final : public SearchList {
  public:
   NodeMenu(const Theme& theme, QWidget* parent);
 
-  /// Offers what the graph knows; with a port, what can be connected to it. `at` is where the list
-  /// goes; what is chosen goes to `place`, which is of the scene.
+  /// Offers what the graph knows; for a port, what can be connected to it; for a wire, what can be
+  /// put into it. `at` is where the list goes; what is chosen goes to `place`, which is of the
+  /// scene.
   void offer(const orvlib::GraphCore& core, const edits::NodePlace& place, Place at,
              const std::vector<Action>& actions = {});
 
   /// Where what is chosen goes.
-  edits::NodePlace place() const { return {position_, connectTo_.get()}; }
+  edits::NodePlace place() const { return {position_, connectTo_.get(), wireTo_.get()}; }
 
  signals:
   void picked(const orvuilib::edits::NewNode& what);
@@ -39,6 +40,7 @@ class NodeMenu final : public SearchList {
   int firstAction_ = 0;  ///< which line it is: before the nodes, or when something is typed behind
   QPointF position_;
   orvlib::PortRef connectTo_;
+  orvlib::PortRef wireTo_;
   QString hint_;
 };
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "standalone/widgets/compound/scene/Placement.h"
+
 namespace orvuilib {
 
 using orvlib::NodeKind;
@@ -106,6 +108,18 @@ void layOut(BoxItem& box, const OpenPorts& open, const Theme& theme) {
   box.bounds.setSize({widthOf(box, theme), box::kTitle + box.rows * box::kRow + box::kFoot});
   box.titleColour = box.kind == BoxKind::Node ? theme.titleColour(box.node->typeName()).rgb()
                                               : theme.palette().boundary.lighter(130).rgb();
+}
+
+const char* positionKeyOf(const BoxItem& box) {
+  switch (box.kind) {
+    case BoxKind::Inputs:
+      return placement::kInputsPosition;
+    case BoxKind::Outputs:
+      return placement::kOutputsPosition;
+    case BoxKind::Node:
+      break;
+  }
+  return placement::kPosition;
 }
 
 QString titleOf(const BoxItem& box) {

@@ -35,6 +35,9 @@ using OpenPorts = QSet<const orvlib::PortObject*>;
 /// must be in no grid.
 void layOut(BoxItem& box, const OpenPorts& open, const Theme& theme);
 
+/// The metadata key that says where the box is: of its node, or for a boundary of the level.
+const char* positionKeyOf(const BoxItem& box);
+
 /// The title of a box.
 ORVUI_EXPORT QString titleOf(const BoxItem& box);
 

@@ -150,11 +150,8 @@ Areas LevelScene::rereadValues(BoxItem& box) {
 
 QRectF LevelScene::followPosition(BoxItem& box) {
   const bool boundary = box.kind != BoxKind::Node;
-  const char* key = !boundary                     ? placement::kPosition
-                    : box.kind == BoxKind::Inputs ? placement::kInputsPosition
-                                                  : placement::kOutputsPosition;
   const auto& metadata = boundary ? level()->metadata() : box.node->metadata();
-  const auto position = placement::pointIn(metadata, key);
+  const auto position = placement::pointIn(metadata, positionKeyOf(box));
   box.placed = position.has_value();
   return position ? move(box, *position) : QRectF();
 }
@@ -182,6 +179,14 @@ Areas LevelScene::followNotes() {
     noteGrid_.insert(*note);
   }
   return touched;
+}
+
+/// Those that the graph gives a place, or the others.
+void LevelScene::addNotes(bool placed) {
+  for (auto* annotation : level()->annotations().items()) {
+    const auto position = placement::pointIn(annotation->metadata(), placement::kPosition);
+    if (position.has_value() == placed) addNote(*annotation);
+  }
 }
 
 NoteItem& LevelScene::addNote(orvlib::AnnotationObject& annotation) {

@@ -16,8 +16,8 @@ constexpr qreal kNextTo = 60;
 
 }  // namespace
 
-/// Those without a place of their own stand below the others, in columns. Where they stand is the
-/// same each time, so that nothing need be stored for looking at a graph.
+/// Those without a place of their own stand below the others and below the notes, in columns. Where
+/// they stand is the same each time, so that nothing need be stored for looking at a graph.
 void LevelScene::placeAll() {
   std::vector<BoxItem*> loose;
   QRectF placed;
@@ -29,6 +29,9 @@ void LevelScene::placeAll() {
       loose.push_back(box);
     }
   }
+  forEachNote([&placed](const NoteItem& note) {
+    if (!note.isBackdrop()) placed |= note.bounds;
+  });
   const QPointF origin = placed.isNull() ? QPointF() : placed.bottomLeft() + QPointF(0, 60);
   placeInColumns(loose, origin);
   forEachBox([this](BoxItem& box) { boxGrid_.insert(box); });
@@ -36,6 +39,7 @@ void LevelScene::placeAll() {
 }
 
 /// To the right of what it depends on, else near the last such place; below what is there already.
+/// On a backdrop it may lie.
 QPointF LevelScene::freePlaceFor(const BoxItem& box) {
   QPointF place = lastFree_;
   forEachSource(*box.node, [this, &place](NodeObject& giver) {
@@ -46,8 +50,12 @@ QPointF LevelScene::freePlaceFor(const BoxItem& box) {
   for (int tries = 0; tries < 64; ++tries) {
     const QRectF wanted(place, box.bounds.size());
     qreal bottom = wanted.top();
-    boxGrid_.search(wanted, [&bottom](const BoxItem& other) {
+    const auto goBelow = [&bottom](const auto& other) {
       bottom = std::max(bottom, other.bounds.bottom() + kRowGap);
+    };
+    boxGrid_.search(wanted, goBelow);
+    noteGrid_.search(wanted, [&goBelow](const NoteItem& note) {
+      if (!note.isBackdrop()) goBelow(note);
     });
     if (bottom == wanted.top()) break;
     place.setY(bottom);

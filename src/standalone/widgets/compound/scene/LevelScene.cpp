@@ -55,8 +55,9 @@ void LevelScene::show(NodeObject* levelNode) {
   inputs_ = makeBoundary(BoxKind::Inputs);
   outputs_ = makeBoundary(BoxKind::Outputs);
   for (NodeObject* node : nodes.items()) addBox(*node);
+  addNotes(true);
   placeAll();
-  for (auto* annotation : level()->annotations().items()) addNote(*annotation);
+  addNotes(false);
   placeBoundaries();
   forEachBox([this](BoxItem& box) { addArrivingWires(box); });
   addArrivingWires(*outputs_);

@@ -127,6 +127,7 @@ class ORVUI_EXPORT LevelScene {
   Areas rereadValues(BoxItem& box);
   QRectF followPosition(BoxItem& box);
   Areas followNotes();
+  void addNotes(bool placed);
   NoteItem& addNote(orvlib::AnnotationObject& annotation);
   bool readNote(NoteItem& note) const;
   QPointF freePlaceForNote(const QRectF& bounds) const;
