@@ -2,44 +2,22 @@
 
 #include <gmock/gmock.h>
 
-#include <QJsonObject>
 #include <bit>
 #include <cmath>
 #include <limits>
 #include <random>
 
-#include "platform/OpenVeskRender/KColorMixingSpaceHelper.h"
 #include "platform/OpenVeskRender/KColorPickerUtilities.h"
 #include "standalone/colour/ColourService.h"
-#include "standalone/host/engine/HostAccess.h"
 #include "standalone/widgets/colour/ColourRegistry.h"
 #include "standalone/widgets/preferences/Preferences.h"
 #include "testPaths.h"
+#include "tests/editors/ColourRecorders.h"
 #include "tests/standalone/colour/ColourTesting.h"
 #include "tests/support/HostTest.h"
 
 using orvUI_v1::ColorManagementHandler;
 using orvUI_v1::HIGColor;
-
-namespace {
-
-int directionOfBase = -1;
-int questionsForViews = 0;
-
-}  // namespace
-
-/// In place of the library's, to see what reaches it.
-HIGColor ColorManagementHandler::applyMixingTransform(const HIGColor& color,
-                                                      Direction direction) const {
-  directionOfBase = direction;
-  return color;
-}
-
-/// In place of the host's, to see whether it is asked.
-KStringArray KColorMixingSpaceHelper::getViewNames(KStatus*) const {
-  ++questionsForViews;
-  return HostAccess::stringArray(vesk::colour::ColourService::current()->mixingSpace().views);
-}
 
 namespace {
 
@@ -56,15 +34,19 @@ constexpr auto kTwo = static_cast<Direction>(2);
 class CMHandler : public ::testing::Test {
  protected:
   CMHandler() { EXPECT_TRUE(host.session().plugins().load(kModule)); }
+  void TearDown() override { orvuilib::Preferences::instance().replaceAll({}); }
 
   ColorManagementHandler& handler() { return *orvuilib::ColourRegistry::instance().handler(); }
 
   static HIGColor same(const KColor& color) { return std::bit_cast<HIGColor>(color); }
 
+  ColourRecorders& recorders = ColourRecorders::instance();
   ColourService service{{.readsEnvironment = false}};
   hosttest::Host host;
 };
 
+// It is the library that forgets the handler, in the destructor of its base, and the handler that
+// takes the eye-dropper away: neither is left pointing into a module that is gone.
 TEST_F(CMHandler, IsThereAsLongAsTheModule) {
   ASSERT_TRUE(orvuilib::ColourRegistry::instance().handler());
   EXPECT_TRUE(orvuilib::ColourRegistry::instance().eyeDropper());
@@ -84,24 +66,16 @@ TEST_F(CMHandler, OffersWhatTheHostHas) {
 }
 
 TEST_F(CMHandler, HasViewsOnlyWhereTheSpaceHas) {
-  questionsForViews = 0;
+  recorders.questionsForViews = 0;
   EXPECT_THAT(handler().getViewSpaceNames(), IsEmpty());
-  EXPECT_EQ(questionsForViews, 0) << "the host is not asked for what is not there";
+  EXPECT_EQ(recorders.questionsForViews, 0) << "the host is not asked for what is not there";
   EXPECT_EQ(handler().viewSpace(), "");
   ASSERT_TRUE(handler().setMixingSpace("sRGB Monitor"));
   EXPECT_THAT(handler().getViewSpaceNames(), ElementsAre("Standard", "Film", "Log", "Raw"));
-  EXPECT_EQ(questionsForViews, 1);
+  EXPECT_EQ(recorders.questionsForViews, 1);
   EXPECT_TRUE(handler().setViewSpace("Log"));
   EXPECT_EQ(handler().viewSpace(), "Log");
   EXPECT_EQ(service.screen().view, "Log");
-}
-
-/// What the base keeps, as it would be stored.
-std::pair<QString, QString> keptByBase(const ColorManagementHandler& handler) {
-  handler.saveUserPrefs();
-  const QJsonObject section = orvuilib::Preferences::instance().section("colorManagement");
-  orvuilib::Preferences::instance().replaceAll({});
-  return {section.value("mixingSpace").toString(), section.value("viewSpace").toString()};
 }
 
 TEST_F(CMHandler, WhatTheHostRefusesChangesNothing) {
@@ -118,76 +92,23 @@ TEST_F(CMHandler, WhatTheHostRefusesChangesNothing) {
   EXPECT_EQ(keptByBase(handler()), std::pair(QString("sRGB Monitor"), QString("Log")));
 }
 
-/// The module is loaded in the test.
-class CMHandlerAtLoad : public ::testing::Test {
- protected:
-  ~CMHandlerAtLoad() override { orvuilib::Preferences::instance().replaceAll({}); }
-
-  ColorManagementHandler& load() {
-    EXPECT_TRUE(host.session().plugins().load(kModule));
-    return *orvuilib::ColourRegistry::instance().handler();
-  }
-
-  hosttest::Host host;
-};
-
-TEST_F(CMHandlerAtLoad, BeginsWithWhatTheHostHasAndWritesNothingBack) {
-  ColourService service{{.readsEnvironment = false}};
-  ASSERT_TRUE(service.setMixingSpace("P3-D65 Cinema"));
-  ASSERT_TRUE(service.setView("Film"));
-  int changes = 0;
-  service.setChangeListener([&changes] { ++changes; });
-  const ColorManagementHandler& handler = load();
-  EXPECT_EQ(keptByBase(handler), std::pair(QString("P3-D65 Cinema"), QString("Film")));
-  EXPECT_EQ(changes, 0);
-}
-
-TEST_F(CMHandlerAtLoad, IsThereWithTheHostsColourManagementOff) {
-  ColourService service{{.readsEnvironment = false, .enabled = false}};
-  ColorManagementHandler& handler = load();
-  EXPECT_FALSE(handler.isColorManagementAvailable());
-  EXPECT_TRUE(handler.enabled());
-  EXPECT_EQ(handler.mixingSpace(), "");
-  EXPECT_FALSE(handler.setMixingSpace("ACEScg"));
-  EXPECT_EQ(keptByBase(handler), std::pair(QString(), QString()));
-  service.setEnabled(true);
-  EXPECT_TRUE(handler.isColorManagementAvailable());
-  EXPECT_EQ(handler.mixingSpace(), "sRGB Texture");
-}
-
-TEST_F(CMHandlerAtLoad, IsThereWithoutColourManagementAtAll) {
-  ColorManagementHandler& handler = load();
-  EXPECT_FALSE(handler.isColorManagementAvailable());
-  EXPECT_EQ(handler.mixingSpace() + handler.viewSpace(), "");
-  EXPECT_THAT(handler.getMixingSpaceNames(), IsEmpty());
-  const HIGColor colour{-1, 0.5f, 1e30f, 0.25f};
-  EXPECT_EQ(handler.applyViewTransform(colour, ColorManagementHandler::kInverse), colour);
-  EXPECT_EQ(handler.applyMixingTransform(colour, ColorManagementHandler::kInverse), colour);
-  EXPECT_EQ(handler.mixingToSlider(0.25f, 0, 1), 0.25f);
-  EXPECT_EQ(handler.sliderToMixing(0.25f, 0, 1), 0.25f);
-}
-
-TEST_F(CMHandlerAtLoad, ComesAgainAsOftenAsTheModuleDoes) {
-  ColourService service{{.readsEnvironment = false}};
-  for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(load().mixingSpace(), "sRGB Texture");
-    host.run("unloadPlugin veskOrvPlugin");
-    EXPECT_FALSE(orvuilib::ColourRegistry::instance().handler());
-  }
-}
-
 TEST_F(CMHandler, TransformsAsTheHostDoes) {
-  const KColorMixingSpaceHelper helper;
+  using vesk::colour::Direction::FromRendering;
+  using vesk::colour::Direction::ToRendering;
+  constexpr auto kForward = ColorManagementHandler::kForward;
+  constexpr auto kInverse = ColorManagementHandler::kInverse;
   for (const char* space : {"sRGB Texture", "ACEScct", "sRGB Monitor"}) {
     ASSERT_TRUE(handler().setMixingSpace(space));
     for (const KColor& color : vesk::colour::testing::randomColours(-1, 8)) {
       const HIGColor colour = same(color);
-      EXPECT_EQ(handler().applyMixingTransform(colour, ColorManagementHandler::kForward),
-                same(helper.applyMixingTransform(color, KColorMixingSpaceHelper::kRenderingToMixing,
-                                                 nullptr)));
-      EXPECT_EQ(handler().applyViewTransform(colour, ColorManagementHandler::kInverse),
-                same(KColorPickerUtilities::applyViewTransform(
-                    color, KColorPickerUtilities::kViewToRendering)));
+      EXPECT_EQ(handler().applyMixingTransform(colour, kForward),
+                same(service.applyMixing(color, FromRendering)));
+      EXPECT_EQ(handler().applyMixingTransform(colour, kInverse),
+                same(service.applyMixing(color, ToRendering)));
+      EXPECT_EQ(handler().applyViewTransform(colour, kForward),
+                same(service.applyView(color, FromRendering)));
+      EXPECT_EQ(handler().applyViewTransform(colour, kInverse),
+                same(service.applyView(color, ToRendering)));
     }
   }
 }
@@ -206,20 +127,49 @@ TEST_F(CMHandler, LeadsThereAndBack) {
   }
 }
 
-TEST_F(CMHandler, AnyDirectionButZeroReachesTheHostAsOne) {
-  const HIGColor colour{0.2f, 0.4f, 0.6f, 0.5f};
-  EXPECT_EQ(handler().applyMixingTransform(colour, kTwo),
-            handler().applyMixingTransform(colour, ColorManagementHandler::kInverse));
-  EXPECT_EQ(handler().applyViewTransform(colour, kTwo),
-            handler().applyViewTransform(colour, ColorManagementHandler::kInverse));
-  EXPECT_NE(handler().applyMixingTransform(colour, kTwo),
-            handler().applyMixingTransform(colour, ColorManagementHandler::kForward));
+TEST_F(CMHandler, LeadsViewsThereAndBack) {
+  ASSERT_TRUE(handler().setMixingSpace("P3-D65 Cinema"));
+  for (const char* view : {"Standard", "Log", "Raw"}) {
+    ASSERT_TRUE(handler().setViewSpace(view));
+    for (const KColor& color : vesk::colour::testing::randomColours(-1, 8)) {
+      const HIGColor shown =
+          handler().applyViewTransform(same(color), ColorManagementHandler::kForward);
+      const HIGColor back = handler().applyViewTransform(shown, ColorManagementHandler::kInverse);
+      EXPECT_LE(vesk::colour::testing::relativeError(std::bit_cast<KColor>(back), color), 1e-5f)
+          << view;
+    }
+  }
 }
 
-TEST_F(CMHandler, TheBaseGetsTheDirectionAsItIs) {
+TEST_F(CMHandler, AnyDirectionButZeroReachesTheHostAsOneAndNoStatusIsAskedFor) {
+  const HIGColor colour{0.2f, 0.4f, 0.6f, 0.5f};
+  for (const Direction direction :
+       {ColorManagementHandler::kForward, ColorManagementHandler::kInverse, kTwo}) {
+    recorders = {};
+    handler().applyMixingTransform(colour, direction);
+    handler().applyViewTransform(colour, direction);
+    ASSERT_EQ(recorders.mixing.size(), 1u);
+    ASSERT_EQ(recorders.views.size(), 1u);
+    EXPECT_EQ(recorders.mixing[0].direction, direction == 0 ? 0 : 1);
+    EXPECT_EQ(recorders.mixing[0].status, nullptr);
+    EXPECT_EQ(recorders.views[0].direction, direction == 0 ? 0 : 1);
+    EXPECT_THAT(recorders.baseDirections, IsEmpty());
+  }
+}
+
+TEST_F(CMHandler, TheBaseGetsTheDirectionAsItIsAndTheHostIsNotAsked) {
+  const auto transformBoth = [this] {
+    recorders = {};
+    handler().applyMixingTransform({}, kTwo);
+    handler().applyViewTransform({}, kTwo);
+    EXPECT_THAT(recorders.baseDirections, ElementsAre(2));
+    EXPECT_EQ(recorders.mixing.size() + recorders.views.size(), 0u);
+  };
   handler().setEnabled(false);
-  handler().applyMixingTransform({}, kTwo);
-  EXPECT_EQ(directionOfBase, 2);
+  transformBoth();
+  handler().setEnabled(true);
+  service.setEnabled(false);
+  transformBoth();
 }
 
 TEST_F(CMHandler, DisabledItLeavesEverythingAsItIs) {
@@ -253,7 +203,6 @@ TEST_F(CMHandler, SlidersGoThereAndBack) {
 }
 
 TEST_F(CMHandler, ItsChoiceIsStoredAndComesBack) {
-  orvuilib::Preferences::instance().replaceAll({});
   ASSERT_TRUE(handler().setMixingSpace("sRGB Monitor"));
   ASSERT_TRUE(handler().setViewSpace("Film"));
   handler().saveUserPrefs();
@@ -261,7 +210,6 @@ TEST_F(CMHandler, ItsChoiceIsStoredAndComesBack) {
   handler().restoreUserPrefs();
   EXPECT_EQ(handler().mixingSpace(), "sRGB Monitor");
   EXPECT_EQ(handler().viewSpace(), "Film");
-  orvuilib::Preferences::instance().replaceAll({});
 }
 
 class Picker final : public vesk::colour::ScreenPicker {

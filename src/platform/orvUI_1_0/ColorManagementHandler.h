@@ -36,7 +36,7 @@ class ORVUI_EXPORT ColorManagementHandler {
   virtual QString mixingSpace() = 0;
 
   /// False, and nothing changed, for a space that cannot be used. The base keeps any name, for
-  /// `saveUserPrefs`, and says true.
+  /// `saveUserPrefs`, forgets the view of another space, and says true.
   virtual bool setMixingSpace(const QString& name);
 
   /// The views of the mixing space; none when it has none.
@@ -62,11 +62,12 @@ class ORVUI_EXPORT ColorManagementHandler {
   virtual void restoreUserPrefs();
 
   /// Stores whether it is enabled, and the spaces that the base was last told, with the preferences
-  /// of the editors.
+  /// of the editors. A space that the base was not told stays stored, and with it its view.
   virtual void saveUserPrefs() const;
 
   /// Makes the handler that of all editors; null takes it back. It stays the caller's, and may go
-  /// while it is registered.
+  /// while it is registered. Its choice is as it is until preferences come, or the first editor of
+  /// colours opens: then it is to restore what is stored.
   static void registerCMHandler(ColorManagementHandler* handler);
 
  protected:

@@ -30,6 +30,7 @@ void ColorManagementHandler::setEnabled(bool enabled) {
 }
 
 bool ColorManagementHandler::setMixingSpace(const QString& name) {
+  if (name != mixingSpace_) viewSpace_.clear();
   mixingSpace_ = name;
   ColourRegistry::instance().tellChange();
   return true;
@@ -61,18 +62,22 @@ void ColorManagementHandler::restoreUserPrefs() {
   if (!view.isEmpty()) setViewSpace(view);
 }
 
+/// What was never told stays stored, as where the program has no colour management for now; but a
+/// view goes with its space.
 void ColorManagementHandler::saveUserPrefs() const {
-  QJsonObject section;
+  QJsonObject section = Preferences::instance().section(kSection);
+  section.remove(kEnabled);
   if (!enabled()) section.insert(kEnabled, false);
-  if (!mixingSpace_.isEmpty()) section.insert(kMixingSpace, mixingSpace_);
+  if (!mixingSpace_.isEmpty()) {
+    if (section.value(kMixingSpace) != mixingSpace_) section.remove(kViewSpace);
+    section.insert(kMixingSpace, mixingSpace_);
+  }
   if (!viewSpace_.isEmpty()) section.insert(kViewSpace, viewSpace_);
   Preferences::instance().setSection(kSection, section);
 }
 
 void ColorManagementHandler::registerCMHandler(ColorManagementHandler* handler) {
   ColourRegistry::instance().setHandler(handler);
-  // Preferences that are yet to come are restored when they do.
-  if (handler && !Preferences::instance().all().isEmpty()) handler->restoreUserPrefs();
 }
 
 void setEyeDropperHandler(EyeDropperHandler handler) {

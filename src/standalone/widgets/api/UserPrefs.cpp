@@ -21,7 +21,7 @@ QJsonDocument getUserPrefs(const QJsonDocument& defaults) {
 void setUserPrefs(const QJsonDocument& preferences) {
   if (!preferences.isObject()) return;
   Preferences::instance().replaceAll(preferences.object());
-  if (auto* colours = ColourRegistry::instance().handler()) colours->restoreUserPrefs();
+  ColourRegistry::instance().restorePreferences();
 }
 
 void setNumberOfMouseButtons(int count) { Preferences::instance().setMouseButtons(count); }

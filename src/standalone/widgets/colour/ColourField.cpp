@@ -26,6 +26,16 @@ QColor screenOf(const Hsv& hsv) { return toScreen(fromMixing(fromHsv(hsv))); }
 
 float within(double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); }
 
+/// What is not moved stays, also where it lies beyond the field: a colour may be brighter than
+/// white, and no brightness is the last.
+Hsv stepped(Hsv hsv, const Hsv& by) {
+  const float hue = hsv.h + by.h;
+  if (by.h != 0) hsv.h = hue - std::floor(hue);
+  if (by.s != 0) hsv.s = within(hsv.s + by.s);
+  if (by.v != 0) hsv.v = std::max(0.0f, hsv.v + by.v);
+  return hsv;
+}
+
 }  // namespace
 
 ColourField::ColourField(QWidget* parent) : QWidget(parent) {
@@ -200,8 +210,7 @@ void ColourField::keyPressEvent(QKeyEvent* event) {
   };
   const auto* row = std::ranges::find(rows, event->key(), &KeyRow::key);
   if (row == std::end(rows)) return QWidget::keyPressEvent(event);
-  const float hue = hsv_.h + row->by.h;
-  change({hue - std::floor(hue), within(hsv_.s + row->by.s), within(hsv_.v + row->by.v)});
+  change(stepped(hsv_, row->by));
   emit finished();
 }
 

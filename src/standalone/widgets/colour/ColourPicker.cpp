@@ -49,6 +49,7 @@ ColourPicker::ColourPicker(QWidget* parent)
       view_(new QComboBox),
       managed_(new QCheckBox(tr("Colour management"))),
       note_(new QLabel) {
+  ColourRegistry::instance().takeUpPreferences();
   auto* grid = new QGridLayout(this);
   grid->setColumnStretch(1, 1);
   grid->addWidget(field_, 0, 0, 1, 3);
@@ -72,10 +73,8 @@ ColourPicker::Row ColourPicker::makeRow(int index) {
   number->setKeyboardTracking(false);
   number->setToolTip(tr(kTips[index]));
   slider->setToolTip(tr(kTips[index]));
-  connect(slider, &ColourSlider::moved, this, [this, index](float position) {
-    const float range = rangeOf(index);
-    mix(withComponent(index, hasUnitRange(index) ? position : fromSliderPosition(position, range)));
-  });
+  connect(slider, &ColourSlider::moved, this,
+          [this, index](float position) { slide(index, position); });
   connect(slider, &ColourSlider::finished, this, &ColourPicker::finish);
   connect(number, &QDoubleSpinBox::valueChanged, this, [this, index](double value) {
     if (showing_) return;
@@ -140,31 +139,6 @@ QToolButton* ColourPicker::makeShapeButton() {
   return button;
 }
 
-void ColourPicker::buildSpaces(QGridLayout& grid) {
-  const int row = grid.rowCount();
-  grid.addWidget(managed_, row, 0, 1, 3);
-  auto* line = new QHBoxLayout;
-  space_->setObjectName(QStringLiteral("mixingSpace"));
-  view_->setObjectName(QStringLiteral("viewSpace"));
-  note_->setObjectName(QStringLiteral("note"));
-  space_->setToolTip(tr("Mixing space"));
-  view_->setToolTip(tr("View"));
-  line->addWidget(space_, 1);
-  line->addWidget(view_, 1);
-  grid.addLayout(line, row + 1, 0, 1, 3);
-  note_->setWordWrap(true);
-  note_->hide();
-  grid.addWidget(note_, row + 2, 0, 1, 3);
-  connect(managed_, &QCheckBox::clicked, this, [](bool on) {
-    auto* management = ColourRegistry::instance().handler();
-    if (!management) return;
-    management->setEnabled(on);
-    management->saveUserPrefs();
-  });
-  connect(space_, &QComboBox::textActivated, this, &ColourPicker::chooseSpace);
-  connect(view_, &QComboBox::textActivated, this, &ColourPicker::chooseView);
-}
-
 void ColourPicker::setColour(const HIGColor& colour) {
   tell({});
   before_->setColour(colour);
@@ -183,6 +157,7 @@ void ColourPicker::setAlphaShown(bool shown) {
 }
 
 void ColourPicker::showColour(const HIGColor& colour) {
+  heldRange_.reset();
   colour_ = colour;
   if (!hasAlpha_) colour_.a = 1;
   mixing_ = toMixing(colour_);
@@ -205,9 +180,21 @@ HIGColor ColourPicker::withComponent(int index, float value) const {
 }
 
 /// A colour brighter than white stays on its sliders.
-float ColourPicker::rangeOf(int index) const {
+float ColourPicker::brightest() const {
   const float largest = std::max({1.0f, mixing_.r, mixing_.g, mixing_.b});
-  return hasUnitRange(index) || !std::isfinite(largest) ? 1.0f : largest;
+  return std::isfinite(largest) ? largest : 1.0f;
+}
+
+float ColourPicker::rangeOf(int index) const {
+  return hasUnitRange(index) ? 1.0f : heldRange_.value_or(brightest());
+}
+
+/// The range is held to the end of the way: the colour that is on its way would shorten it, and one
+/// place on the slider would mean less each time.
+void ColourPicker::slide(int index, float position) {
+  heldRange_ = heldRange_.value_or(brightest());
+  mix(withComponent(index,
+                    hasUnitRange(index) ? position : fromSliderPosition(position, *heldRange_)));
 }
 
 void ColourPicker::showRow(const Row& row) {
@@ -223,6 +210,11 @@ void ColourPicker::showRow(const Row& row) {
   row.number->setValue(std::isnan(value) ? 0.0 : static_cast<double>(value));
 }
 
+void ColourPicker::showRows() {
+  const QScopedValueRollback guard(showing_, true);
+  for (const Row& row : rows_) showRow(row);
+}
+
 /// A hue that the user moves stays, also where the colour has none.
 void ColourPicker::mix(const HIGColor& mixing) {
   // Bit for bit: what is no number does not equal itself.
@@ -230,16 +222,19 @@ void ColourPicker::mix(const HIGColor& mixing) {
   mixing_ = mixing;
   hsv_ = toHsv(mixing_, hsv_);
   if (moved) colour_ = fromMixing(mixing);
-  const QScopedValueRollback guard(showing_, true);
   field_->setHsv(hsv_);
-  for (const Row& row : rows_) showRow(row);
+  showRows();
   now_->setColour(colour_);
   const QColor screen = toScreen(colour_);
   code_->setText(screen.name(screen.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb));
   if (moved) emit changing(colour_);
 }
 
-void ColourPicker::finish() { emit changed(colour_); }
+void ColourPicker::finish() {
+  heldRange_.reset();
+  showRows();
+  emit changed(colour_);
+}
 
 void ColourPicker::choose(const HIGColor& colour) {
   showColour(colour);
@@ -250,49 +245,6 @@ void ColourPicker::choose(const HIGColor& colour) {
 void ColourPicker::followManagement() {
   showColour(colour_);
   showSpaces();
-}
-
-void ColourPicker::showSpaces() {
-  auto* management = ColourRegistry::instance().handler();
-  const bool there = management && management->isColorManagementAvailable();
-  const bool on = there && management->enabled();
-  managed_->setEnabled(there);
-  managed_->setChecked(on);
-  dropper_->setEnabled(ColourRegistry::instance().eyeDropper());
-  for (QComboBox* box : {space_, view_}) {
-    box->clear();
-    box->setEnabled(false);
-  }
-  if (!on) return;
-  space_->addItems(management->getMixingSpaceNames());
-  space_->setCurrentText(management->mixingSpace());
-  view_->addItems(management->getViewSpaceNames());
-  view_->setCurrentText(management->viewSpace());
-  for (QComboBox* box : {space_, view_}) box->setEnabled(box->count() > 0);
-}
-
-void ColourPicker::chooseSpace(const QString& name) {
-  if (auto* management = ColourRegistry::instance().handler()) {
-    noteChoice(name, name == management->mixingSpace() || management->setMixingSpace(name));
-  }
-}
-
-void ColourPicker::chooseView(const QString& name) {
-  if (auto* management = ColourRegistry::instance().handler()) {
-    noteChoice(name, name == management->viewSpace() || management->setViewSpace(name));
-  }
-}
-
-/// What was refused is told, and the boxes go back to what is in force.
-void ColourPicker::noteChoice(const QString& name, bool taken) {
-  tell(taken ? QString() : tr("%1 cannot be used").arg(name));
-  if (taken) ColourRegistry::instance().handler()->saveUserPrefs();
-  showSpaces();
-}
-
-void ColourPicker::tell(const QString& text) {
-  note_->setText(text);
-  note_->setVisible(!text.isEmpty());
 }
 
 /// A cancelled pick may leave anything behind.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <vector>
 
 #include "platform/orvUI_1_0/HIGColor.h"
@@ -61,6 +62,8 @@ class ORVUI_EXPORT ColourPicker : public QWidget {
 
   void showColour(const orvUI_v1::HIGColor& colour);
   void showRow(const Row& row);
+  void showRows();
+  void slide(int index, float position);
   void showSpaces();
   void mix(const orvUI_v1::HIGColor& mixing);
   void finish();
@@ -78,12 +81,14 @@ class ORVUI_EXPORT ColourPicker : public QWidget {
   float component(int index) const;
   orvUI_v1::HIGColor withComponent(int index, float value) const;
   float rangeOf(int index) const;
+  float brightest() const;
 
   orvUI_v1::HIGColor colour_;
   orvUI_v1::HIGColor mixing_;
   Hsv hsv_;
   bool hasAlpha_ = true;
-  bool showing_ = false;  ///< what the widgets say now comes from here
+  std::optional<float> heldRange_;  ///< of the sliders, while one of them is on its way
+  bool showing_ = false;            ///< what the widgets say now comes from here
 
   ColourField* field_;
   std::vector<Row> rows_;

@@ -20,14 +20,22 @@ class ORVUI_EXPORT ColourRegistry final : public QObject {
   /// Takes the handler back if it is this one.
   void forget(const orvUI_v1::ColorManagementHandler& handler);
 
+  /// Lets the handler restore the user's choice.
+  void restorePreferences();
+
+  /// Does so unless it was done for this handler. For editors that show colours, when they open: a
+  /// handler that is registered begins with what the program has.
+  void takeUpPreferences();
+
   /// Null when there is none.
   orvUI_v1::EyeDropperHandler eyeDropper() const { return eyeDropper_; }
-  void setEyeDropper(orvUI_v1::EyeDropperHandler picker) { eyeDropper_ = picker; }
+  void setEyeDropper(orvUI_v1::EyeDropperHandler picker);
 
   /// Says that what colours look like has changed: another handler, space, view or switch.
   void tellChange() { emit changed(); }
 
  signals:
+  /// What colours look like, or the eye-dropper.
   void changed();
 
  private:
@@ -35,6 +43,7 @@ class ORVUI_EXPORT ColourRegistry final : public QObject {
 
   orvUI_v1::ColorManagementHandler* handler_ = nullptr;
   orvUI_v1::EyeDropperHandler eyeDropper_ = nullptr;
+  bool restored_ = false;  ///< the choice, by this handler
 };
 
 }  // namespace orvuilib

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "standalone/widgets/colour/ColourRegistry.h"
 #include "standalone/widgets/hooks/HookRegistry.h"
 #include "standalone/widgets/parameters/Notice.h"
 #include "standalone/widgets/parameters/ParameterPanel.h"
@@ -24,6 +25,7 @@ ParameterEditorWidget::ParameterEditorWidget(QWidget* parent)
     : ParameterEditor(parent),
       notice_(new Notice(this)),
       follower_([this](unsigned char bits) { follow(bits); }) {
+  ColourRegistry::instance().takeUpPreferences();
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);

@@ -6,7 +6,9 @@
 #include <QSignalSpy>
 #include <memory>
 
+#include "platform/orvUI_1_0/ParameterEditor.h"
 #include "platform/orvUI_1_0/UserPrefs.h"
+#include "standalone/widgets/colour/ColourPicker.h"
 #include "standalone/widgets/colour/ColourRegistry.h"
 #include "standalone/widgets/colour/ManagedColour.h"
 #include "tests/standalone/widgets/colour/ColourTesting.h"
@@ -73,13 +75,47 @@ TEST_F(BaseHandler, IsEnabledAtFirst) {
 TEST_F(BaseHandler, StoresItsChoiceAndTakesItUpAgain) {
   HalvingHandler handler;
   handler.setMixingSpace("Other");
-  handler.setViewSpace("Bright");
+  handler.setViewSpace("Dim");
   handler.setEnabled(false);
   handler.saveUserPrefs();
   HalvingHandler next;
   next.restoreUserPrefs();
   EXPECT_FALSE(next.enabled());
   EXPECT_EQ(next.mixingSpace(), "Other");
+  EXPECT_EQ(next.viewSpace(), "Dim");
+}
+
+/// What the base stores, as the space and its view.
+std::pair<QString, QString> stored() {
+  const QJsonObject section = Preferences::instance().section("colorManagement");
+  return {section.value("mixingSpace").toString(), section.value("viewSpace").toString()};
+}
+
+TEST_F(BaseHandler, AViewIsNotStoredWithAnotherSpace) {
+  HalvingHandler handler;
+  handler.setMixingSpace("Other");
+  handler.setViewSpace("Dim");
+  handler.saveUserPrefs();
+  EXPECT_EQ(stored(), std::pair(QString("Other"), QString("Dim")));
+  handler.setMixingSpace("Other");
+  handler.saveUserPrefs();
+  EXPECT_EQ(stored(), std::pair(QString("Other"), QString("Dim"))) << "it is no other space";
+  handler.setMixingSpace("Plain");
+  handler.saveUserPrefs();
+  EXPECT_EQ(stored(), std::pair(QString("Plain"), QString()));
+}
+
+TEST_F(BaseHandler, WhatItWasNeverToldStaysStored) {
+  Preferences::instance().replaceAll(
+      {{"colorManagement", QJsonObject{{"mixingSpace", "Other"}, {"viewSpace", "Dim"}}}});
+  HalvingHandler handler;
+  handler.setEnabled(false);
+  handler.saveUserPrefs();
+  EXPECT_EQ(stored(), std::pair(QString("Other"), QString("Dim")));
+  EXPECT_EQ(Preferences::instance().section("colorManagement").value("enabled"), false);
+  handler.setEnabled(true);
+  handler.saveUserPrefs();
+  EXPECT_FALSE(Preferences::instance().section("colorManagement").contains("enabled"));
 }
 
 TEST_F(BaseHandler, WithoutStoredPreferencesNothingChanges) {
@@ -99,12 +135,34 @@ TEST_F(BaseHandler, PreferencesThatComeAreTakenUp) {
   EXPECT_TRUE(first.enabled()) << "it is registered no longer";
 }
 
-TEST_F(BaseHandler, TakesUpPreferencesThatAreThereAlready) {
+TEST_F(BaseHandler, TakesUpPreferencesThatAreThereAlreadyWhenAnEditorOpens) {
   Preferences::instance().replaceAll(
       {{"colorManagement", QJsonObject{{"mixingSpace", "Other"}, {"enabled", false}}}});
   HalvingHandler handler;
+  EXPECT_EQ(handler.mixingSpace(), "Half") << "being registered is no choice";
+  EXPECT_TRUE(handler.enabled());
+  const orvuilib::ColourPicker first;
   EXPECT_EQ(handler.mixingSpace(), "Other");
   EXPECT_FALSE(handler.enabled());
+  handler.setMixingSpace("Plain");
+  const orvuilib::ColourPicker second;
+  EXPECT_EQ(handler.mixingSpace(), "Plain") << "once";
+}
+
+TEST_F(BaseHandler, TakesThemUpForTheParameterEditorToo) {
+  Preferences::instance().replaceAll({{"colorManagement", QJsonObject{{"mixingSpace", "Other"}}}});
+  HalvingHandler handler;
+  const std::unique_ptr<QWidget> editor(orvUI_v1::ParameterEditor::create(nullptr));
+  EXPECT_EQ(handler.mixingSpace(), "Other");
+}
+
+TEST_F(BaseHandler, EachHandlerTakesThemUp) {
+  Preferences::instance().replaceAll({{"colorManagement", QJsonObject{{"mixingSpace", "Other"}}}});
+  for (int i = 0; i < 2; ++i) {
+    HalvingHandler handler;
+    const orvuilib::ColourPicker picker;
+    EXPECT_EQ(handler.mixingSpace(), "Other");
+  }
 }
 
 TEST_F(BaseHandler, AStoredSpaceThatIsRefusedLeavesTheOldOne) {

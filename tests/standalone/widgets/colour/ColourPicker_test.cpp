@@ -10,7 +10,6 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "standalone/widgets/colour/ColourDialog.h"
 #include "standalone/widgets/colour/ColourField.h"
 #include "standalone/widgets/colour/ColourPalette.h"
 #include "standalone/widgets/colour/ColourSlider.h"
@@ -20,7 +19,6 @@
 namespace {
 
 using orvUI_v1::HIGColor;
-using orvuilib::ColourDialog;
 using orvuilib::ColourField;
 using orvuilib::ColourPalette;
 using orvuilib::ColourPicker;
@@ -62,6 +60,34 @@ TEST_F(Picker, ASliderSaysWhereItIsAndAtItsEndThatItIsDone) {
   EXPECT_EQ(changed.count(), 1);
   EXPECT_NEAR(picker.colour().r, 1.0f, 1e-6f);
   EXPECT_EQ(picker.colour().g, 0.5f);
+}
+
+TEST_F(Picker, ASliderOfABrightColourMeansTheSameAllTheWay) {
+  picker.setColour({12.5f, 3, 0.75f, 1});
+  ColourSlider& red = slider(0);
+  const QPoint middle(red.width() / 2, red.height() / 2);
+  const float green = slider(1).position();
+  QTest::mousePress(&red, Qt::LeftButton, {}, middle);
+  const float pixel = 12.5f / static_cast<float>(red.width() - 8);
+  for (int x : {1, 2, 3, 0, -1, 0}) {
+    QTest::mouseMove(&red, middle + QPoint(x, 0));
+    EXPECT_NEAR(picker.colour().r, 6.25f + static_cast<float>(x) * pixel, pixel);
+    EXPECT_EQ(slider(1).position(), green) << "the others stand still";
+  }
+  QTest::mouseRelease(&red, Qt::LeftButton, {}, middle);
+  EXPECT_EQ(red.position(), 1.0f) << "the brightest component is the end again";
+  EXPECT_EQ(changed.count(), 1);
+}
+
+TEST_F(Picker, AnotherColourWhileASliderMovesHasARangeOfItsOwn) {
+  picker.setColour({12.5f, 3, 0.75f, 1});
+  ColourSlider& red = slider(0);
+  const QPoint middle(red.width() / 2, red.height() / 2);
+  QTest::mousePress(&red, Qt::LeftButton, {}, middle);
+  picker.setColour({0.25f, 0.5f, 0.75f, 1});
+  EXPECT_EQ(red.position(), 0.25f);
+  QTest::mouseMove(&red, middle);
+  EXPECT_NEAR(picker.colour().r, 0.5f, 0.01f);
 }
 
 TEST_F(Picker, ANumberIsTakenAsItIsAlsoBeyondTheSlider) {
@@ -111,6 +137,27 @@ TEST_F(Picker, KeysMoveInTheSquareAndTurnTheHue) {
   EXPECT_EQ(changed.count(), 2);
 }
 
+TEST_F(Picker, AHueKeyLeavesABrightColourAsBright) {
+  picker.setColour({12.5f, 6, 6, 1});
+  QTest::keyClick(&field(), Qt::Key_PageUp);
+  EXPECT_EQ(picker.colour().r, 12.5f);
+  EXPECT_NEAR(picker.colour().g, 6 + 0.06f * 6.5f, 1e-3f);
+  EXPECT_NEAR(picker.colour().b, 6, 1e-3f);
+}
+
+TEST_F(Picker, AKeyMovesOnePartAlone) {
+  const auto after = [this](const orvuilib::Hsv& before, Qt::Key key) {
+    field().setHsv(before);
+    QTest::keyClick(&field(), key);
+    return field().hsv();
+  };
+  EXPECT_FLOAT_EQ(after({0.25f, 0.5f, 12.5f}, Qt::Key_Up).v, 12.51f) << "no brightness is the last";
+  EXPECT_EQ(after({0.25f, 0.5f, 0.005f}, Qt::Key_Down).v, 0.0f);
+  EXPECT_EQ(after({0.25f, 0.5f, 12.5f}, Qt::Key_Right).v, 12.5f);
+  EXPECT_EQ(after({0.25f, 0.995f, 0.5f}, Qt::Key_Right).s, 1.0f);
+  EXPECT_NEAR(after({0.995f, 0.5f, 0.5f}, Qt::Key_PageUp).h, 0.005f, 1e-6f);
+}
+
 TEST_F(Picker, AGreyLetsTheHueBeChosen) {
   picker.setColour({0.5f, 0.5f, 0.5f, 1});
   const QRectF ring = field().hueArea();
@@ -150,6 +197,15 @@ TEST_F(Picker, TheScreenGivesAColourUnlessItIsCancelled) {
   });
   dropper.click();
   EXPECT_EQ(picker.colour(), (HIGColor{0.1f, 0.2f, 0.3f, 0.5f}));
+}
+
+TEST_F(Picker, FollowsAnEyeDropperThatComesAndGoes) {
+  auto& dropper = *picker.findChild<QToolButton*>(QStringLiteral("eyeDropper"));
+  EXPECT_FALSE(dropper.isEnabled());
+  orvUI_v1::setEyeDropperHandler([](HIGColor*) { return false; });
+  EXPECT_TRUE(dropper.isEnabled());
+  orvUI_v1::setEyeDropperHandler(nullptr);
+  EXPECT_FALSE(dropper.isEnabled());
 }
 
 TEST_F(Picker, MixesInTheSpaceAndPaintsThroughTheView) {
@@ -194,6 +250,23 @@ TEST_F(Picker, KeepsTheChoiceThatWasTakenAndNotTheOneRefused) {
   EXPECT_EQ(kept().toString(), "Other");
 }
 
+TEST_F(Picker, KeepsTheViewOfTheSpaceThatWasChosen) {
+  HalvingHandler handler;
+  auto& spaces = *picker.findChild<QComboBox*>(QStringLiteral("mixingSpace"));
+  auto& views = *picker.findChild<QComboBox*>(QStringLiteral("viewSpace"));
+  const auto kept = [] {
+    return orvuilib::Preferences::instance().section("colorManagement").value("viewSpace");
+  };
+  emit views.textActivated(QStringLiteral("Dim"));
+  EXPECT_EQ(kept().toString(), "Dim");
+  emit spaces.textActivated(QStringLiteral("Other"));
+  EXPECT_EQ(kept().toString(), "Bright") << "the view that this space had";
+  emit spaces.textActivated(QStringLiteral("Half"));
+  EXPECT_EQ(kept().toString(), "Dim");
+  emit spaces.textActivated(QStringLiteral("Plain"));
+  EXPECT_TRUE(kept().isUndefined()) << "it has no views";
+}
+
 TEST_F(Picker, StandsHostileColours) {
   const float inf = std::numeric_limits<float>::infinity();
   const float nan = std::numeric_limits<float>::quiet_NaN();
@@ -227,40 +300,6 @@ TEST_F(Picker, RemembersTheLastColours) {
   ASSERT_EQ(recent.size(), 12u);
   EXPECT_EQ(recent[0].r, 15.0f);
   EXPECT_EQ(recent[1].r, 19.0f);
-}
-
-class Dialog : public ColourTest {
- protected:
-  Dialog() { dialog.show(); }
-
-  ColourDialog dialog{{0.5f, 0.5f, 0.5f, 1}, nullptr};
-  QSignalSpy changing{&dialog, &ColourDialog::changing};
-  QSignalSpy chosen{&dialog, &ColourDialog::chosen};
-  QSignalSpy cancelled{&dialog, &ColourDialog::cancelled};
-};
-
-TEST_F(Dialog, IsOneChoiceHoweverMuchWasTried) {
-  dialog.picker().findChild<QDoubleSpinBox*>()->setValue(0.25);
-  dialog.picker().findChild<QDoubleSpinBox*>()->setValue(0.75);
-  EXPECT_EQ(changing.count(), 2);
-  EXPECT_EQ(chosen.count(), 0);
-  dialog.accept();
-  ASSERT_EQ(chosen.count(), 1);
-  EXPECT_EQ(chosen[0][0].value<HIGColor>(), (HIGColor{0.75f, 0.5f, 0.5f, 1}));
-  EXPECT_THAT(ColourPalette::recent(), ElementsAre(HIGColor{0.75f, 0.5f, 0.5f, 1}));
-}
-
-TEST_F(Dialog, EscapeLeavesTheColour) {
-  dialog.picker().findChild<QDoubleSpinBox*>()->setValue(0.25);
-  QTest::keyClick(&dialog, Qt::Key_Escape);
-  EXPECT_EQ(chosen.count(), 0);
-  EXPECT_EQ(cancelled.count(), 1);
-}
-
-TEST_F(Dialog, TakingTheSameColourChangesNothing) {
-  dialog.accept();
-  EXPECT_EQ(chosen.count(), 0);
-  EXPECT_EQ(cancelled.count(), 1);
 }
 
 }  // namespace

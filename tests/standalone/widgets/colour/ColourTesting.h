@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <ostream>
 
 #include "platform/orvUI_1_0/ColorManagementHandler.h"
@@ -26,20 +27,28 @@ class ColourTest : public testing::Test {
 };
 
 /// A colour management whose mixing space has half the numbers, and whose view shows twice as much.
+/// Each space but "Plain" remembers its view.
 class HalvingHandler : public orvUI_v1::ColorManagementHandler {
  public:
   HalvingHandler() { registerCMHandler(this); }
 
   bool isColorManagementAvailable() override { return true; }
-  QList<QString> getMixingSpaceNames() override { return {"Half", "Other", "Refused"}; }
+  QList<QString> getMixingSpaceNames() override { return {"Half", "Other", "Plain", "Refused"}; }
   QString mixingSpace() override { return space_; }
   bool setMixingSpace(const QString& name) override {
     if (name == "Refused") return false;
     space_ = name;
     return ColorManagementHandler::setMixingSpace(name);
   }
-  QList<QString> getViewSpaceNames() override { return {"Bright"}; }
-  QString viewSpace() override { return "Bright"; }
+  QList<QString> getViewSpaceNames() override {
+    return space_ == "Plain" ? QList<QString>() : QList<QString>{"Bright", "Dim"};
+  }
+  QString viewSpace() override { return space_ == "Plain" ? QString() : views_[space_]; }
+  bool setViewSpace(const QString& name) override {
+    if (!getViewSpaceNames().contains(name)) return false;
+    views_[space_] = name;
+    return ColorManagementHandler::setViewSpace(name);
+  }
 
   orvUI_v1::HIGColor applyMixingTransform(const orvUI_v1::HIGColor& colour,
                                           Direction direction) const override {
@@ -58,4 +67,5 @@ class HalvingHandler : public orvUI_v1::ColorManagementHandler {
   }
 
   QString space_ = "Half";
+  std::map<QString, QString> views_{{"Half", "Bright"}, {"Other", "Bright"}};
 };
